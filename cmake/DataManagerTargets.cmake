@@ -1,0 +1,75 @@
+# SPDX-FileCopyrightText: 2026 DataManager contributors
+# SPDX-License-Identifier: BSD-3-Clause
+#
+# What every target of this project has in common.
+
+# Compile settings of our own code.
+function(datamanager_compile_settings target)
+  target_compile_features(${target} PUBLIC cxx_std_17)
+  # Results must not depend on the machine: no contraction of a product and a sum into one rounding.
+  target_compile_options(${target} PRIVATE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -ffp-contract=off
+    $<$<BOOL:${DATAMANAGER_DEVELOPER}>:-Werror>)
+  target_compile_definitions(${target} PRIVATE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
+  set_target_properties(${target} PROPERTIES
+    CXX_EXTENSIONS OFF
+    AUTOMOC ON
+    INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+  if(DATAMANAGER_SANITIZERS)
+    target_compile_options(${target} PRIVATE
+      -fsanitize=${DATAMANAGER_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(${target} PRIVATE -fsanitize=${DATAMANAGER_SANITIZERS})
+  endif()
+  if(DATAMANAGER_COVERAGE)
+    target_compile_options(${target} PRIVATE --coverage -fno-inline)
+    target_link_options(${target} PRIVATE --coverage)
+  endif()
+endfunction()
+
+# A library whose headers are included as <name-in-lower-case/Header.h>, with hidden visibility and an export macro
+# generated into <name-in-lower-case/name_export.h>.
+function(datamanager_add_library target)
+  string(TOLOWER ${target} directory)
+  add_library(${target} ${ARGN})
+  datamanager_compile_settings(${target})
+  set_target_properties(${target} PROPERTIES
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR}
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    POSITION_INDEPENDENT_CODE ON
+    INSTALL_RPATH "$ORIGIN")
+  set(generated "${PROJECT_BINARY_DIR}/generated/${directory}")
+  generate_export_header(${target}
+    EXPORT_FILE_NAME "${generated}/${directory}/${directory}_export.h")
+  get_filename_component(root "${CMAKE_CURRENT_SOURCE_DIR}" DIRECTORY)
+  target_include_directories(${target} PUBLIC
+    $<BUILD_INTERFACE:${root}>
+    $<BUILD_INTERFACE:${generated}>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+  set_property(GLOBAL APPEND PROPERTY DATAMANAGER_LIBRARIES ${target})
+endfunction()
+
+# Compiles every header of our libraries alone, so that each can be included first.
+function(datamanager_check_headers)
+  get_property(libraries GLOBAL PROPERTY DATAMANAGER_LIBRARIES)
+  foreach(library IN LISTS libraries)
+    get_target_property(directory ${library} SOURCE_DIR)
+    get_filename_component(root "${directory}" DIRECTORY)
+    file(GLOB_RECURSE headers RELATIVE "${root}" "${directory}/*.h")
+    set(sources)
+    foreach(header IN LISTS headers)
+      set(source "${PROJECT_BINARY_DIR}/headers/${header}.cpp")
+      file(CONFIGURE OUTPUT "${source}" CONTENT "#include <${header}>\n")
+      list(APPEND sources "${source}")
+    endforeach()
+    add_library(${library}Headers OBJECT ${sources})
+    datamanager_compile_settings(${library}Headers)
+    set_target_properties(${library}Headers PROPERTIES AUTOMOC OFF)
+    target_link_libraries(${library}Headers PRIVATE ${library})
+    if(library STREQUAL DataManager)
+      target_link_libraries(${library}Headers PRIVATE VTK::CommonMath OnnxRuntime::OnnxRuntime)
+    endif()
+  endforeach()
+endfunction()
