@@ -1,0 +1,33 @@
+# SPDX-FileCopyrightText: 2026 DataManager contributors
+# SPDX-License-Identifier: BSD-3-Clause
+"""Reads the committed table of features and labels."""
+import csv
+import hashlib
+import pathlib
+from types import SimpleNamespace
+
+import numpy as np
+
+from split import TEST_FAMILIES
+from tetrahedron_metrics import FEATURES
+
+DEFAULT = pathlib.Path(__file__).resolve().parent / "data" / "meshes.csv"
+
+
+def numbers(rows, name):
+    return np.array([float(row[name]) if row[name] else np.nan for row in rows])
+
+
+def read_table(path=DEFAULT):
+    with open(path, encoding="ascii", newline="") as stream:
+        rows = list(csv.DictReader(stream))
+    family = np.array([row["family"] for row in rows])
+    return SimpleNamespace(
+        rows=rows, family=family, tested=np.isin(family, TEST_FAMILIES),
+        features=np.column_stack([numbers(rows, name) for name in FEATURES]),
+        **{name: numbers(rows, name) for name in
+           ["accuracy", "poisson", "elasticity", "minScaledJacobian", "stretch", "jitter", "scale", "elements"]})
+
+
+def data_hash(path=DEFAULT):
+    return hashlib.sha256(pathlib.Path(path).read_bytes()).hexdigest()
