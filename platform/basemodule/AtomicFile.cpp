@@ -27,15 +27,22 @@ namespace BaseModule {
 namespace {
 
 /// The file that a write to `path` changes: symbolic links are followed, also to a target that does not exist yet.
-QString writtenFile(const QString& path)
+/// Empty when there is none.
+QByteArray writtenFile(const QString& path)
 {
+    if (path.contains(QChar::Null)) {
+        return {};
+    }
     // As many links as the kernel itself follows.
     constexpr int maximumLinks = 40;
     QString target = path;
-    for (int i = 0; i < maximumLinks && QFileInfo(target).isSymLink(); ++i) {
+    for (int i = 0; QFileInfo(target).isSymLink(); ++i) {
+        if (i == maximumLinks) {
+            return {};
+        }
         target = QFileInfo(target).symLinkTarget();
     }
-    return target;
+    return QFile::encodeName(target);
 }
 
 QByteArray directoryOf(const QByteArray& file)
@@ -148,10 +155,10 @@ bool fillAndRename(int descriptor, const QByteArray& temporary, const QByteArray
 
 bool AtomicFile::replace(const QString& path, const QByteArray& content)
 {
-    if (path.isEmpty() || path.contains(QChar::Null)) {
+    const QByteArray target = writtenFile(path);
+    if (target.isEmpty()) {
         return false;
     }
-    const QByteArray target = QFile::encodeName(writtenFile(path));
     const QByteArray temporary = temporaryFor(target);
     const int descriptor = openLocked(temporary);
     if (descriptor < 0) {
@@ -169,10 +176,11 @@ bool AtomicFile::replace(const QString& path, const QByteArray& content)
 
 void AtomicFile::removeAbandonedTemporary(const QString& path)
 {
-    if (path.isEmpty() || path.contains(QChar::Null)) {
+    const QByteArray target = writtenFile(path);
+    if (target.isEmpty()) {
         return;
     }
-    const QByteArray temporary = temporaryFor(QFile::encodeName(writtenFile(path)));
+    const QByteArray temporary = temporaryFor(target);
     const int descriptor = ::open(temporary.constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW);
     if (descriptor < 0) {
         return;

@@ -25,7 +25,7 @@ bool GlobalHelper::readFile(QString path, QByteArray& out)
 {
     AtomicFile::removeAbandonedTemporary(path);
     // A pipe or a device would block or never end.
-    if (!QFileInfo(path).isFile()) {
+    if (path.contains(QChar::Null) || !QFileInfo(path).isFile()) {
         return false;
     }
     QFile file(path);

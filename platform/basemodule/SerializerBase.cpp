@@ -17,7 +17,12 @@ QByteArray SerializerBase::serialize(const void* object, const QMetaObject& meta
     if (!json.isObject()) {
         return {};
     }
-    return QJsonDocument(json.toObject()).toJson(isIndented ? QJsonDocument::Indented : QJsonDocument::Compact);
+    QByteArray text =
+        QJsonDocument(json.toObject()).toJson(isIndented ? QJsonDocument::Indented : QJsonDocument::Compact);
+    // A byte-order mark at the start of a text would be dropped by the reader; escaped it is kept. Its bytes can stand
+    // for nothing else in valid UTF-8.
+    text.replace("\xef\xbb\xbf", "\\ufeff");
+    return text;
 }
 
 } // namespace QJsonHelper

@@ -23,8 +23,8 @@ class BASEMODULE_EXPORT SerializerBase
 {
 public:
     /// The JSON text, in UTF-8, of every property of `object` that `meta` describes. `object` is the address of the
-    /// QObject. Empty on failure: a null object, a property of a type that is not supported, or a text that is not
-    /// valid Unicode nested in lists deeper than records can be. `isIndented` chooses the layout for people.
+    /// QObject. Empty on failure: a null object, a property of a type that is not supported, records nested deeper than
+    /// 1024. `isIndented` chooses the layout for people; otherwise there is no white space.
     static QByteArray serialize(const void* object, const QMetaObject& meta, bool isIndented);
 };
 

@@ -1,0 +1,330 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <basemodule/GlobalConfig.h>
+#include <basemodule/GlobalHelper.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using BaseModule::GlobalHelper;
+
+namespace
+{
+
+const QIODevice::OpenMode replaceWhole = QIODevice::WriteOnly | QIODevice::Truncate;
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<cannot be read>");
+}
+
+QByteArray everyByte()
+{
+    QByteArray bytes;
+    for (int i = 0; i < 256; ++i) {
+        bytes.append(char(i));
+    }
+    return bytes;
+}
+
+/// Kills a process in the middle of a save, by the file-size limit whose signal is not handled.
+bool dieWhileWriting(const QString& file)
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const struct rlimit small = {4096, 4096};
+        ::setrlimit(RLIMIT_FSIZE, &small);
+        ::signal(SIGXFSZ, SIG_DFL);
+        GlobalHelper::writeFile(file, QByteArray(100000, 'n'), replaceWhole);
+        ::_exit(0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFSIGNALED(status);
+}
+
+} // namespace
+
+class tst_GlobalHelper : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void theFlagValueOfEveryCallerIsTen();
+    void writesAndReadsBack_data();
+    void writesAndReadsBack();
+    void replacesALongerFile();
+    void appendsInAppendMode();
+    void keepsThePermissionsOfTheOldFile();
+    void writesThroughASymbolicLink();
+    void writesThroughALinkToNothing();
+    void refusesWhatIsNoRegularFile_data();
+    void refusesWhatIsNoRegularFile();
+    void keepsTheOldFileWhenTheDiskIsFull_data();
+    void keepsTheOldFileWhenTheDiskIsFull();
+    void leavesNothingBesideTheTarget();
+    void anAbandonedTemporaryIsRemoved();
+    void readingLeavesWhatIsBeingWritten();
+    void readFailureLeavesTheArgument();
+    void oddPaths_data();
+    void oddPaths();
+    void projectDirectory();
+    void developmentConfiguration();
+
+private:
+    QString path(const QString& name) const { return m_directory->filePath(name); }
+    QStringList entries() const
+    {
+        return QDir(m_directory->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+
+    QScopedPointer<QTemporaryDir> m_directory;
+};
+
+void tst_GlobalHelper::init()
+{
+    m_directory.reset(new QTemporaryDir);
+    QVERIFY(m_directory->isValid());
+}
+
+void tst_GlobalHelper::theFlagValueOfEveryCallerIsTen()
+{
+    QCOMPARE(int(replaceWhole), 10);
+}
+
+void tst_GlobalHelper::writesAndReadsBack_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray("");
+    QTest::newRow("one byte") << QByteArray("x");
+    QTest::newRow("every byte value") << everyByte();
+    QTest::newRow("16385 bytes") << QByteArray(16385, 'y');
+    QTest::newRow("5 MB") << QByteArray(5000000, 'z');
+}
+
+void tst_GlobalHelper::writesAndReadsBack()
+{
+    QFETCH(QByteArray, content);
+    QVERIFY(GlobalHelper::writeFile(path(QStringLiteral("file")), content, replaceWhole));
+    QByteArray read("before");
+    QVERIFY(GlobalHelper::readFile(path(QStringLiteral("file")), read));
+    QCOMPARE(read, content);
+}
+
+void tst_GlobalHelper::replacesALongerFile()
+{
+    const QString file = path(QStringLiteral("file"));
+    QVERIFY(GlobalHelper::writeFile(file, QByteArray(1000, 'a'), replaceWhole));
+    QVERIFY(GlobalHelper::writeFile(file, "short", replaceWhole));
+    QCOMPARE(contentOf(file), QByteArray("short"));
+}
+
+void tst_GlobalHelper::appendsInAppendMode()
+{
+    const QString file = path(QStringLiteral("file"));
+    QVERIFY(GlobalHelper::writeFile(file, "one,", replaceWhole));
+    QVERIFY(GlobalHelper::writeFile(file, "two", QIODevice::WriteOnly | QIODevice::Append));
+    QCOMPARE(contentOf(file), QByteArray("one,two"));
+}
+
+void tst_GlobalHelper::keepsThePermissionsOfTheOldFile()
+{
+    const QString file = path(QStringLiteral("file"));
+    QVERIFY(GlobalHelper::writeFile(file, "old", replaceWhole));
+    QCOMPARE(::chmod(QFile::encodeName(file).constData(), 0640), 0);
+    QVERIFY(GlobalHelper::writeFile(file, "new", replaceWhole));
+    struct stat status = {};
+    QCOMPARE(::stat(QFile::encodeName(file).constData(), &status), 0);
+    QCOMPARE(int(status.st_mode & 07777), 0640);
+}
+
+void tst_GlobalHelper::writesThroughASymbolicLink()
+{
+    QVERIFY(QDir(m_directory->path()).mkdir(QStringLiteral("elsewhere")));
+    const QString target = path(QStringLiteral("elsewhere/target"));
+    const QString link = path(QStringLiteral("link"));
+    QVERIFY(GlobalHelper::writeFile(target, "old", replaceWhole));
+    QVERIFY(QFile::link(QStringLiteral("elsewhere/target"), link));
+    QVERIFY(GlobalHelper::writeFile(link, "new", replaceWhole));
+    QVERIFY(QFileInfo(link).isSymLink());
+    QCOMPARE(contentOf(target), QByteArray("new"));
+}
+
+void tst_GlobalHelper::writesThroughALinkToNothing()
+{
+    const QString link = path(QStringLiteral("link"));
+    QVERIFY(QFile::link(QStringLiteral("absent"), link));
+    QVERIFY(GlobalHelper::writeFile(link, "new", replaceWhole));
+    QVERIFY(QFileInfo(link).isSymLink());
+    QCOMPARE(contentOf(path(QStringLiteral("absent"))), QByteArray("new"));
+}
+
+void tst_GlobalHelper::refusesWhatIsNoRegularFile_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::newRow("empty path") << QString();
+    QTest::newRow("directory") << QStringLiteral("folder");
+    QTest::newRow("directory with separator") << QStringLiteral("folder/");
+    QTest::newRow("FIFO") << QStringLiteral("pipe");
+    QTest::newRow("missing directory") << QStringLiteral("absent/file");
+    QTest::newRow("link to itself") << QStringLiteral("loop");
+    QTest::newRow("a file as directory") << QStringLiteral("plain/file");
+    QTest::newRow("device") << QStringLiteral("/dev/null");
+    QTest::newRow("NUL in the name") << QString(QStringLiteral("plain") + QChar(0) + QStringLiteral("b"));
+}
+
+void tst_GlobalHelper::refusesWhatIsNoRegularFile()
+{
+    QFETCH(QString, target);
+    QVERIFY(QDir(m_directory->path()).mkdir(QStringLiteral("folder")));
+    QCOMPARE(::mkfifo(QFile::encodeName(path(QStringLiteral("pipe"))).constData(), 0600), 0);
+    QVERIFY(QFile::link(QStringLiteral("loop"), path(QStringLiteral("loop"))));
+    QVERIFY(GlobalHelper::writeFile(path(QStringLiteral("plain")), "content", replaceWhole));
+    const QStringList before = entries();
+    const QString file = target.isEmpty() || target.startsWith(QLatin1Char('/')) ? target : path(target);
+
+    QVERIFY(!GlobalHelper::writeFile(file, "new", replaceWhole));
+    QByteArray read("before");
+    QVERIFY(!GlobalHelper::readFile(file, read));
+    QCOMPARE(read, QByteArray("before"));
+    QCOMPARE(entries(), before);
+    QCOMPARE(contentOf(path(QStringLiteral("plain"))), QByteArray("content"));
+}
+
+void tst_GlobalHelper::keepsTheOldFileWhenTheDiskIsFull_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::newRow("one byte too many") << 8193;
+    QTest::newRow("16384") << 16384;
+    QTest::newRow("16385") << 16385;
+    QTest::newRow("1 MB") << 1000000;
+}
+
+// The file-size limit of the process stands for a full disk: a write beyond it fails in the middle, too.
+void tst_GlobalHelper::keepsTheOldFileWhenTheDiskIsFull()
+{
+    QFETCH(int, size);
+    const QString file = path(QStringLiteral("file"));
+    QVERIFY(GlobalHelper::writeFile(file, "old", replaceWhole));
+    ::signal(SIGXFSZ, SIG_IGN);
+    struct rlimit before = {};
+    QCOMPARE(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    struct rlimit small = before;
+    small.rlim_cur = 8192;
+    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    const bool isWritten = GlobalHelper::writeFile(file, QByteArray(size, 'n'), replaceWhole);
+    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    QVERIFY(!isWritten);
+    QCOMPARE(contentOf(file), QByteArray("old"));
+    QCOMPARE(entries(), QStringList{QStringLiteral("file")});
+}
+
+void tst_GlobalHelper::leavesNothingBesideTheTarget()
+{
+    QVERIFY(GlobalHelper::writeFile(path(QStringLiteral("file")), "one", replaceWhole));
+    QVERIFY(GlobalHelper::writeFile(path(QStringLiteral("file")), "two", replaceWhole));
+    QCOMPARE(entries(), QStringList{QStringLiteral("file")});
+}
+
+void tst_GlobalHelper::anAbandonedTemporaryIsRemoved()
+{
+    const QString file = path(QStringLiteral("file"));
+    QVERIFY(GlobalHelper::writeFile(file, "old", replaceWhole));
+    QVERIFY(dieWhileWriting(file));
+    QCOMPARE(entries().size(), 2);
+    QByteArray read;
+    QVERIFY(GlobalHelper::readFile(file, read));
+    QCOMPARE(read, QByteArray("old"));
+    QCOMPARE(entries(), QStringList{QStringLiteral("file")});
+
+    QVERIFY(dieWhileWriting(file));
+    QVERIFY(GlobalHelper::writeFile(file, "new", replaceWhole));
+    QCOMPARE(contentOf(file), QByteArray("new"));
+    QCOMPARE(entries(), QStringList{QStringLiteral("file")});
+}
+
+void tst_GlobalHelper::readingLeavesWhatIsBeingWritten()
+{
+    const QString file = path(QStringLiteral("file"));
+    QVERIFY(GlobalHelper::writeFile(file, "old", replaceWhole));
+    QVERIFY(dieWhileWriting(file));
+    const QStringList both = entries();
+    QCOMPARE(both.size(), 2);
+    const QString temporary = both.at(0) == QLatin1String("file") ? both.at(1) : both.at(0);
+    const int descriptor = ::open(QFile::encodeName(path(temporary)).constData(), O_RDWR);
+    QCOMPARE(::flock(descriptor, LOCK_EX), 0);
+    QByteArray read;
+    QVERIFY(GlobalHelper::readFile(file, read));
+    QCOMPARE(entries(), both);
+    ::close(descriptor);
+    QVERIFY(GlobalHelper::readFile(file, read));
+    QCOMPARE(entries(), QStringList{QStringLiteral("file")});
+}
+
+void tst_GlobalHelper::readFailureLeavesTheArgument()
+{
+    QByteArray read("before");
+    QVERIFY(!GlobalHelper::readFile(path(QStringLiteral("absent")), read));
+    QCOMPARE(read, QByteArray("before"));
+}
+
+void tst_GlobalHelper::oddPaths_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isPossible");
+    QTest::newRow("spaces") << QStringLiteral("a b  c ") << true;
+    QTest::newRow("placeholder") << QStringLiteral("%1 %2") << true;
+    QTest::newRow("not ASCII") << QString::fromUtf8("\u6750\u6599 \u00e4\u00f6\u00fc") << true;
+    QTest::newRow("newline") << QStringLiteral("a\nb") << true;
+    QTest::newRow("longest name") << QString(255, QLatin1Char('n')) << true;
+    QTest::newRow("name too long") << QString(256, QLatin1Char('n')) << false;
+    QTest::newRow("4000 characters") << QString(4000, QLatin1Char('n')) << false;
+}
+
+void tst_GlobalHelper::oddPaths()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isPossible);
+    QCOMPARE(GlobalHelper::writeFile(path(name), "content", replaceWhole), isPossible);
+    QByteArray read;
+    QCOMPARE(GlobalHelper::readFile(path(name), read), isPossible);
+    QCOMPARE(read, isPossible ? QByteArray("content") : QByteArray());
+    QCOMPARE(entries().size(), isPossible ? 1 : 0);
+}
+
+void tst_GlobalHelper::projectDirectory()
+{
+    const QString standard = QCoreApplication::applicationDirPath() + QStringLiteral("/../temp");
+    QCOMPARE(GlobalHelper::getProjectTempIODir(), standard);
+    GlobalHelper::setProjectTempIODir(QStringLiteral("/some/where/"));
+    QCOMPARE(GlobalHelper::getProjectTempIODir(), QStringLiteral("/some/where"));
+    GlobalHelper::setProjectTempIODir(QStringLiteral("/some/else"));
+    QCOMPARE(GlobalHelper::getProjectTempIODir(), QStringLiteral("/some/else"));
+    GlobalHelper::setProjectTempIODir(QString());
+    QCOMPARE(GlobalHelper::getProjectTempIODir(), standard);
+}
+
+void tst_GlobalHelper::developmentConfiguration()
+{
+    QCOMPARE(GlobalConfig::getIsDevelop(), false);
+    GlobalConfig::setIsDevelop(true);
+    QCOMPARE(BaseModule::GlobalConfig::getIsDevelop(), true);
+    GlobalConfig::setIsDevelop(false);
+    QCOMPARE(GlobalConfig::getIsDevelop(), false);
+}
+
+QTEST_GUILESS_MAIN(tst_GlobalHelper)
+#include "tst_globalhelper.moc"
