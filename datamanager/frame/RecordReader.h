@@ -7,8 +7,11 @@
 
 #include <QByteArray>
 #include <QDebug>
+#include <QJsonDocument>
 #include <QObject>
 #include <QSharedPointer>
+
+#include <type_traits>
 
 namespace DataManager {
 
@@ -25,9 +28,18 @@ QSharedPointer<Record> readRecord(const QByteArray& json, bool* isParsed = nullp
         qCritical() << "Did you forget to declare a public parameterless Q_INVOKABLE constructor?";
         return record;
     }
-    const bool isObject = QJsonHelper::DeserializerBase::deserialize(json, record.data(), &meta);
-    if (isParsed != nullptr) {
-        *isParsed = isObject;
+    using Result = decltype(QJsonHelper::DeserializerBase::deserialize(json, record.data(), &meta));
+    if constexpr (std::is_same_v<Result, bool>) {
+        const bool isObject = QJsonHelper::DeserializerBase::deserialize(json, record.data(), &meta);
+        if (isParsed != nullptr) {
+            *isParsed = isObject;
+        }
+    } else {
+        // An application's own base library may not tell.
+        QJsonHelper::DeserializerBase::deserialize(json, record.data(), &meta);
+        if (isParsed != nullptr) {
+            *isParsed = QJsonDocument::fromJson(json).isObject();
+        }
     }
     return record;
 }
