@@ -18,6 +18,7 @@ public:
 
     /// The interface language as a word, such as "English" or "Chinese"; "English" before the first `setLanguage`.
     QString getLanguage() const;
+    /// Chooses the interface language; libraries read it each time they need it.
     void setLanguage(const QString& language);
 
 private:

@@ -24,13 +24,17 @@ public:
 
     /// The object's identifier, for example that of a geometry or mesh entity; -1 while the record is unused.
     int getFirstID() const { return m_firstID; }
+    /// Sets the object's identifier.
     void setFirstID(int id) { m_firstID = id; }
 
     /// The identifier within the object; -1 while the record is unused.
     int getSecondID() const { return m_secondID; }
+    /// Sets the identifier within the object.
     void setSecondID(int id) { m_secondID = id; }
 
+    /// The select model under which the item was picked.
     BaseModule::SelectModel getSelectModel() const { return m_selectModel; }
+    /// Sets the select model under which the item was picked.
     void setSelectModel(BaseModule::SelectModel model) { m_selectModel = model; }
 
 private:
