@@ -1,0 +1,278 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <configoption/TextCipher.h>
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <openssl/evp.h>
+#include <openssl/hmac.h>
+
+using ConfigOption::TextCipher;
+
+namespace {
+
+const QString mark = QStringLiteral("DMTC1:");
+const char keyVariable[] = "DATAMANAGER_CIPHER_KEY";
+const char keyFileVariable[] = "DATAMANAGER_CIPHER_KEY_FILE";
+
+QString encrypt(const QString& text)
+{
+    return TextCipher::getInstance()->encryptData_CBC(text);
+}
+
+QString decrypt(const QString& text)
+{
+    return TextCipher::getInstance()->decryptData_CBC(text);
+}
+
+void expectRefusal()
+{
+    QTest::ignoreMessage(QtDebugMsg, "Decrypt text fail: it was not encrypted with this key.");
+}
+
+const QString sample = QStringLiteral("The quick brown fox, 自由空间");
+
+} // namespace
+
+class TestTextCipher : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void hasOneInstance();
+    void returnsEveryText_data();
+    void returnsEveryText();
+    void differsFromCallToCall();
+    void hasTheDocumentedForm();
+    void refusesForeignTexts_data();
+    void refusesForeignTexts();
+    void refusesEverySingleBitFlip();
+    void refusesEveryTruncation();
+    void refusesExchangedBlocks();
+    void refusesAnotherKey();
+    void takesTheKeyFromAFile();
+    void failsWithoutTheConfiguredKeyFile_data();
+    void failsWithoutTheConfiguredKeyFile();
+};
+
+void TestTextCipher::init()
+{
+    qunsetenv(keyVariable);
+    qunsetenv(keyFileVariable);
+}
+
+void TestTextCipher::hasOneInstance()
+{
+    QCOMPARE(TextCipher::getInstance(), TextCipher::getInstance());
+}
+
+void TestTextCipher::returnsEveryText_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("null") << QString();
+    QTest::newRow("empty") << QStringLiteral("");
+    QTest::newRow("ASCII") << QStringLiteral("plain");
+    QTest::newRow("fifteen bytes and a mark") << QString(15, QLatin1Char('x'));
+    QTest::newRow("sixteen bytes and a mark") << QString(16, QLatin1Char('x'));
+    QTest::newRow("Chinese") << sample;
+    QTest::newRow("outside the basic plane") << QString::fromUtf8("\xf0\x9f\x94\xa9");
+    QTest::newRow("NUL") << QString(3, QChar(0));
+    QTest::newRow("NUL inside") << QStringLiteral("a") + QChar(0) + QStringLiteral("b");
+    QTest::newRow("byte-order mark") << QString(QChar(0xfeff)) + QStringLiteral("a");
+    QTest::newRow("swapped byte-order mark") << QString(QChar(0xfffe)) + QStringLiteral("a");
+    QTest::newRow("lone high surrogate") << QStringLiteral("a") + QChar(0xd800) + QStringLiteral("b");
+    QTest::newRow("lone low surrogate") << QString(QChar(0xdfff));
+    QTest::newRow("swapped surrogates") << QString(QChar(0xdc00)) + QChar(0xd800);
+    QString every;
+    for (int code = 0; code <= 0xffff; ++code) {
+        every += QChar(code);
+    }
+    QTest::newRow("every code unit") << every;
+    QTest::newRow("long") << QString(5000000, QChar(0x4e2d));
+}
+
+void TestTextCipher::returnsEveryText()
+{
+    QFETCH(QString, text);
+    const QString cipherText = encrypt(text);
+    QVERIFY(cipherText.startsWith(mark));
+    QCOMPARE(decrypt(cipherText), text);
+    QCOMPARE(decrypt(decrypt(encrypt(cipherText))), text);
+}
+
+void TestTextCipher::differsFromCallToCall()
+{
+    QSet<QString> texts;
+    for (int i = 0; i < 1000; ++i) {
+        // The first block shows the initialisation vector alone.
+        texts.insert(encrypt(sample).mid(mark.size(), 21));
+    }
+    QCOMPARE(texts.size(), 1000);
+}
+
+// Written from the description of the format, with OpenSSL's one-call functions: the other side of the interface.
+void TestTextCipher::hasTheDocumentedForm()
+{
+    qputenv(keyVariable, "a secret of ours");
+    const QByteArray sealed = QByteArray::fromBase64(encrypt(QStringLiteral("ab")).mid(mark.size()).toLatin1());
+    QCOMPARE(sealed.size(), 16 + 16 + 32);
+    unsigned char keys[64];
+    QVERIFY(PKCS5_PBKDF2_HMAC("a secret of ours", 16, reinterpret_cast<const unsigned char*>("DataManager text cipher"),
+                              23, 100000, EVP_sha256(), 64, keys) == 1);
+    const QByteArray message = "DMTC1:" + sealed.left(32);
+    unsigned char tag[32];
+    unsigned int size = 0;
+    HMAC(EVP_sha256(), keys + 32, 32, reinterpret_cast<const unsigned char*>(message.constData()),
+         size_t(message.size()), tag, &size);
+    QCOMPARE(sealed.mid(32), QByteArray(reinterpret_cast<char*>(tag), 32));
+    EVP_CIPHER_CTX* const context = EVP_CIPHER_CTX_new();
+    unsigned char plain[32];
+    int length = 0;
+    int last = 0;
+    const auto* const bytes = reinterpret_cast<const unsigned char*>(sealed.constData());
+    QVERIFY(EVP_DecryptInit_ex(context, EVP_aes_256_cbc(), nullptr, keys, bytes) == 1);
+    QVERIFY(EVP_DecryptUpdate(context, plain, &length, bytes + 16, 16) == 1);
+    QVERIFY(EVP_DecryptFinal_ex(context, plain + length, &last) == 1);
+    EVP_CIPHER_CTX_free(context);
+    QCOMPARE(QByteArray(reinterpret_cast<char*>(plain), length + last), QByteArray("8ab"));
+}
+
+void TestTextCipher::refusesForeignTexts_data()
+{
+    QTest::addColumn<QString>("text");
+    const QString cipherText = encrypt(sample);
+    QTest::newRow("empty") << QString();
+    QTest::newRow("plain") << sample;
+    QTest::newRow("JSON") << QStringLiteral("{\"materialList\":[]}");
+    QTest::newRow("mark alone") << mark;
+    QTest::newRow("without mark") << cipherText.mid(mark.size());
+    QTest::newRow("another version") << QStringLiteral("DMTC2:") + cipherText.mid(mark.size());
+    QTest::newRow("a letter appended") << cipherText + QLatin1Char('A');
+    QTest::newRow("a line end appended") << cipherText + QLatin1Char('\n');
+    QTest::newRow("NUL appended") << cipherText + QChar(0);
+    QTest::newRow("blank before") << QLatin1Char(' ') + cipherText;
+    QTest::newRow("blank inside") << QString(cipherText).insert(20, QLatin1Char(' '));
+    QTest::newRow("twice in a row") << cipherText + cipherText;
+    QTest::newRow("Base64 of nothing") << mark + QStringLiteral("====");
+    QTest::newRow("zeros") << mark + QString::fromLatin1(QByteArray(128, '\0').toBase64());
+    QTest::newRow("one block short") << mark + QString::fromLatin1(QByteArray(63, 'x').toBase64());
+}
+
+void TestTextCipher::refusesForeignTexts()
+{
+    QFETCH(QString, text);
+    expectRefusal();
+    const QString plain = decrypt(text);
+    QVERIFY(plain.isEmpty());
+}
+
+void TestTextCipher::refusesEverySingleBitFlip()
+{
+    const QString cipherText = encrypt(sample);
+    for (int i = 0; i < cipherText.size(); ++i) {
+        for (int bit = 0; bit < 16; ++bit) {
+            QString changed = cipherText;
+            changed[i] = QChar(changed.at(i).unicode() ^ (1 << bit));
+            expectRefusal();
+            QVERIFY2(decrypt(changed).isEmpty(), qPrintable(QStringLiteral("unit %1 bit %2").arg(i).arg(bit)));
+        }
+    }
+}
+
+void TestTextCipher::refusesEveryTruncation()
+{
+    const QString cipherText = encrypt(sample);
+    for (int size = 0; size < cipherText.size(); ++size) {
+        expectRefusal();
+        QVERIFY(decrypt(cipherText.left(size)).isEmpty());
+        if (size > 0) {
+            expectRefusal();
+            QVERIFY(decrypt(cipherText.mid(size)).isEmpty());
+        }
+    }
+}
+
+void TestTextCipher::refusesExchangedBlocks()
+{
+    const auto sealedOf = [](const QString& text) {
+        return QByteArray::fromBase64(encrypt(text).mid(mark.size()).toLatin1());
+    };
+    const auto first = sealedOf(QString(100, QLatin1Char('a')));
+    const auto second = sealedOf(QString(100, QLatin1Char('b')));
+    for (int begin = 0; begin + 16 <= first.size(); begin += 16) {
+        QByteArray mixed = first;
+        mixed.replace(begin, 16, second.mid(begin, 16));
+        expectRefusal();
+        QVERIFY(decrypt(mark + QString::fromLatin1(mixed.toBase64())).isEmpty());
+    }
+}
+
+void TestTextCipher::refusesAnotherKey()
+{
+    const QString withBuiltIn = encrypt(sample);
+    qputenv(keyVariable, "first");
+    const QString withFirst = encrypt(sample);
+    QCOMPARE(decrypt(withFirst), sample);
+    expectRefusal();
+    QVERIFY(decrypt(withBuiltIn).isEmpty());
+    qputenv(keyVariable, "second");
+    expectRefusal();
+    QVERIFY(decrypt(withFirst).isEmpty());
+    qunsetenv(keyVariable);
+    QCOMPARE(decrypt(withBuiltIn), sample);
+    expectRefusal();
+    QVERIFY(decrypt(withFirst).isEmpty());
+}
+
+void TestTextCipher::takesTheKeyFromAFile()
+{
+    QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("key"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("from a file\r\n");
+    file.close();
+    qputenv(keyFileVariable, QFile::encodeName(path));
+    const QString withFile = encrypt(sample);
+    QCOMPARE(decrypt(withFile), sample);
+    qputenv(keyVariable, "the variable goes first");
+    expectRefusal();
+    QVERIFY(decrypt(withFile).isEmpty());
+    qunsetenv(keyFileVariable);
+    qputenv(keyVariable, "from a file");
+    QCOMPARE(decrypt(withFile), sample);
+}
+
+void TestTextCipher::failsWithoutTheConfiguredKeyFile_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("exists");
+    QTest::newRow("missing") << QByteArray() << false;
+    QTest::newRow("empty") << QByteArray() << true;
+    QTest::newRow("only line ends") << QByteArray("\r\n\n") << true;
+}
+
+void TestTextCipher::failsWithoutTheConfiguredKeyFile()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(bool, exists);
+    const QString withBuiltIn = encrypt(sample);
+    QTemporaryDir directory;
+    QFile file(directory.filePath(QStringLiteral("key")));
+    if (exists) {
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+    }
+    qputenv(keyFileVariable, QFile::encodeName(file.fileName()));
+    QTest::ignoreMessage(QtDebugMsg, "Encrypt text fail!");
+    QVERIFY(encrypt(sample).isEmpty());
+    expectRefusal();
+    QVERIFY(decrypt(withBuiltIn).isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestTextCipher)
+#include "tst_textcipher.moc"
