@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <datamanager/material/ExampleLibraryManager.h>
+
+#include <datamanager/frame/RecordReader.h>
+#include <datamanager/frame/Singleton.h>
+#include <datamanager/material/private/LibraryFile.h>
+
+#include <basemodule/GlobalHelper.h>
+#include <basemodule/SerializerBase.h>
+#include <datamodel/ExampleLibData.h>
+
+#include <QCoreApplication>
+#include <QDebug>
+
+namespace DataManager {
+
+namespace {
+
+LibraryFile libraryFile(const QString& path)
+{
+    return {path, QStringLiteral("exampleList"), nullptr};
+}
+
+} // namespace
+
+ExampleLibraryManager* ExampleLibraryManager::m_instance = nullptr;
+
+ExampleLibraryManager* ExampleLibraryManager::getInstance()
+{
+    return singleton(m_instance, [] { return new ExampleLibraryManager; });
+}
+
+ExampleLibraryManager::ExampleLibraryManager()
+    : m_exampleLibPath(QCoreApplication::applicationDirPath() + QStringLiteral("/ConfigFiles/ExampleLibrary.json"))
+{
+    QByteArray bytes;
+    if (!BaseModule::GlobalHelper::readFile(m_exampleLibPath, bytes)) {
+        qDebug().noquote() << QStringLiteral("read Example file fail, please check path: %1").arg(m_exampleLibPath);
+    }
+    bool isParsed = false;
+    m_exampleLibData = readRecord<DataModel::ExampleLibData>(bytes, &isParsed);
+    if (!isParsed) {
+        libraryFile(m_exampleLibPath).markUnreadable();
+    }
+    if (m_exampleLibData.isNull()) {
+        qDebug() << "deserialize Example fail !";
+    }
+}
+
+QSharedPointer<DataModel::ExampleLibData> ExampleLibraryManager::getExampleLibData()
+{
+    return m_exampleLibData;
+}
+
+void ExampleLibraryManager::saveData()
+{
+    const QByteArray json = QJsonHelper::SerializerBase::serialize(m_exampleLibData.data(),
+                                                                   DataModel::ExampleLibData::staticMetaObject, false);
+    if (json.isEmpty()) {
+        qDebug() << "serialize Example fail !";
+        return;
+    }
+    if (!libraryFile(m_exampleLibPath).write(json)) {
+        qDebug().noquote() << QStringLiteral("write Example file fail, please check path: %1").arg(m_exampleLibPath);
+    }
+}
+
+} // namespace DataManager
