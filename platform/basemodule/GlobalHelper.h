@@ -7,11 +7,13 @@
 
 #include <QByteArray>
 #include <QIODevice>
+#include <QList>
+#include <QPair>
 #include <QString>
 
 namespace BaseModule {
 
-/// Files and directories that the libraries share.
+/// Files, directories and text forms that the libraries share.
 class BASEMODULE_EXPORT GlobalHelper
 {
 public:
@@ -29,6 +31,29 @@ public:
     static QString getProjectTempIODir();
     /// Names the project's working directory; one trailing separator is dropped. An empty text restores the default.
     static void setProjectTempIODir(QString directory);
+
+    // Lists as texts. Each pair of calls round-trips every value: numbers to the last bit (also -0, infinities and the
+    // bits of a not-a-number), texts with any code unit. The written texts hold no control characters, no half
+    // surrogates and no noncharacters (they stand as '%' and four hexadecimal digits), so JSON carries them unchanged.
+    // They do not depend on the locale. A text that is not of the described form as a whole reads as the empty value.
+
+    /// "0:1;3:2"; the empty text for an empty list.
+    static QString convertIntIntQListToQString(QList<QPair<int, int>> list);
+    static QList<QPair<int, int>> convertStringToIntIntQList(QString text);
+
+    /// "0,0.5,-1e+300", each number in the shortest form that reads back to the same bits; the empty text for an empty
+    /// list.
+    static QString convertDoubleListToQString(QList<double> list);
+    static QList<double> convertStringToDoubleList(QString text);
+
+    /// "0:first;3:second"; the empty text for an empty list, "3:" for a list of one empty text.
+    static QString convertIntQStringQListToQString(QList<QPair<int, QString>> list);
+    static QList<QPair<int, QString>> convertStringToIntQStringQList(QString text);
+
+    /// "RotateX,90": the text up to the last comma, then the number.
+    static QString convertQStringDoubleQPairToQString(QPair<QString, double> pair);
+    /// An empty text and 0 when `text` is not of that form.
+    static QPair<QString, double> convertStringToQStringDoublePair(QString text);
 };
 
 } // namespace BaseModule
