@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#pragma once
+
+#include <datamanager/coordinates/RelativeCoordinateSystem.h>
+#include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
+
+#include <basemodule/GlobalHelper.h>
+#include <basemodule/IBaseSignal.h>
+
+#include <QFile>
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// An empty registry and an empty project directory, for the time of one test function. Needs private access.
+class RegistryFixture
+{
+public:
+    using System = DataManager::RelativeCoordinateSystem;
+    using Registry = DataManager::RelativeCoordinateSystemDate;
+
+    RegistryFixture()
+    {
+        destroyRegistry();
+        System::resetMaxID();
+        BaseModule::GlobalHelper::setProjectTempIODir(m_directory.path());
+    }
+    ~RegistryFixture()
+    {
+        destroyRegistry();
+        BaseModule::GlobalHelper::setProjectTempIODir(QString());
+    }
+
+    static Registry* registry() { return Registry::getInstance(); }
+
+    /// Destroys the registry with its systems; the next access creates a new one.
+    static void destroyRegistry()
+    {
+        delete Registry::_instance;
+        Registry::_instance = nullptr;
+    }
+
+    /// A registered system without chains; the file is not written.
+    static System* add(int id, int basicID = 0)
+    {
+        auto* const system = new System;
+        system->setID(id);
+        system->setBasicCoordinateSystemID(basicID);
+        registry()->m_coordinateSystemList.append(system);
+        return system;
+    }
+
+    static QList<int> ids()
+    {
+        QList<int> list;
+        for (int i = 0; i < registry()->getRelativeCoordinateSystemDateCount(); ++i) {
+            list.append(registry()->getCoordinateSystemByIndex(i)->getID());
+        }
+        return list;
+    }
+
+    QString path() const { return m_directory.path() + QStringLiteral("/RelativeCoordinateSystemDate.json"); }
+    bool hasFile() const { return QFile::exists(path()); }
+    QByteArray fileContent() const
+    {
+        QFile file(path());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    bool setFileContent(const QByteArray& content) const
+    {
+        QFile file(path());
+        return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(content) == content.size();
+    }
+
+private:
+    QTemporaryDir m_directory;
+};
+
+inline QString textOf(const QList<int>& ids)
+{
+    QStringList texts;
+    for (const int id : ids) {
+        texts.append(QString::number(id));
+    }
+    return QLatin1Char('[') + texts.join(QLatin1Char(',')) + QLatin1Char(']');
+}
+
+/// Writes down every signal of the registry and the hub's signal of the registry, with the IDs that are registered and
+/// the current ID at that moment. Belongs to the registry that exists when it is made.
+class SignalLog : public QObject
+{
+public:
+    SignalLog()
+    {
+        using Registry = DataManager::RelativeCoordinateSystemDate;
+        connect(Registry::getInstance(), &Registry::signal_dataChanged, this,
+                [this](const QList<int>& ids) { note(QStringLiteral("changed ") + textOf(ids)); });
+        connect(Registry::getInstance(), &Registry::signal_dataDeleted, this,
+                [this](const QList<int>& ids) { note(QStringLiteral("deleted ") + textOf(ids)); });
+        connect(BaseModule::IBaseSignal::getInstance(), &BaseModule::IBaseSignal::signal_updateWindowTitle, this,
+                [this] { note(QStringLiteral("title")); });
+    }
+
+    QStringList take()
+    {
+        const QStringList lines = m_lines;
+        m_lines.clear();
+        return lines;
+    }
+
+private:
+    void note(const QString& signal)
+    {
+        const int current = RegistryFixture::registry()->getCurrentCoordinateSystemID();
+        m_lines.append(signal + QStringLiteral(" with ") + textOf(RegistryFixture::ids()) + QStringLiteral(" at ") +
+                       QString::number(current));
+    }
+
+    QStringList m_lines;
+};

@@ -1,0 +1,477 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "ChainModel.h"
+#include "RegistryFixture.h"
+
+#include <datamanager/coordinates/RelativeCoordinateSystemDateManager.h>
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+#include <memory>
+#include <random>
+
+using DataManager::RelativeCoordinateSystem;
+using DataManager::RelativeCoordinateSystemDate;
+
+namespace {
+
+const char* const keys[] = {"m_IDList",           "m_basicCoorSysIDList",   "m_nameList",
+                            "m_typeList",         "m_offsetCoordinateList", "m_rotateDirectionList",
+                            "m_actorRoateDirList"};
+
+QJsonObject parsed(const QByteArray& json)
+{
+    return QJsonDocument::fromJson(json).object();
+}
+
+/// A file content whose seven lists are given in the order of the keys.
+QByteArray fileOf(const QVector<QJsonArray>& lists)
+{
+    QJsonObject object;
+    for (int i = 0; i < lists.size(); ++i) {
+        object.insert(QString::fromLatin1(keys[i]), lists.at(i));
+    }
+    return QJsonDocument(object).toJson();
+}
+
+/// Three systems in a chain, below a global one that is not stored.
+QByteArray goodFile()
+{
+    return fileOf({{3, 5, 9},
+                   {0, 3, 5},
+                   {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")},
+                   {QStringLiteral("0:0;3:1"), QStringLiteral("0:0;3:1;5:2"), QStringLiteral("0:0;3:1;5:2;9:3")},
+                   {QStringLiteral("3:1,2,3"), QStringLiteral("5:4,5,6"), QStringLiteral("9:7,8,9")},
+                   {QStringLiteral("3:0.5,0,0"), QStringLiteral("5:0,0.5,0"), QStringLiteral("9:0,0,0.5")},
+                   {QStringLiteral("3:X,1"), QStringLiteral("5:Y,2"), QStringLiteral("9:Z,3")}});
+}
+
+} // namespace
+
+class CoordinateSystemFileTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<RegistryFixture> m_fixture;
+
+    static RelativeCoordinateSystemDate* registry() { return RelativeCoordinateSystemDate::getInstance(); }
+
+    static RelativeCoordinateSystem* make(int id, int basicID, const QString& name, int number)
+    {
+        auto* const system = new RelativeCoordinateSystem;
+        system->setID(id);
+        system->setBasicCoordinateSystemID(basicID);
+        system->setName(name);
+        setLevels(*system, LevelValues(number), id, basicID, -1);
+        return system;
+    }
+
+    void addGlobal() { setLevels(*m_fixture->add(0), LevelValues(0), 0, 0, -1); }
+
+    /// The global system and the systems of the file.
+    void readFile(const QByteArray& content)
+    {
+        QVERIFY(m_fixture->setFileContent(content));
+        addGlobal();
+        registry()->readConfig();
+    }
+
+    QStringList chain(int index, int list) const { return plainRegistry().at(index).chains.at(list); }
+
+private Q_SLOTS:
+    void init() { m_fixture = std::make_unique<RegistryFixture>(); }
+    void cleanup() { m_fixture.reset(); }
+
+    void writesSevenEmptyListsForTheGlobalSystem_data()
+    {
+        QTest::addColumn<int>("count");
+        QTest::newRow("empty registry") << 0;
+        QTest::newRow("global system") << 1;
+    }
+    void writesSevenEmptyListsForTheGlobalSystem()
+    {
+        QFETCH(int, count);
+        if (count == 1) {
+            addGlobal();
+        }
+        SignalLog log;
+        registry()->writeConfig();
+        const QJsonObject object = parsed(m_fixture->fileContent());
+        QCOMPARE(object.size(), 7);
+        for (const char* key : keys) {
+            QVERIFY2(object.value(QLatin1String(key)).isArray(), key);
+            QCOMPARE(object.value(QLatin1String(key)).toArray().size(), 0);
+        }
+        QCOMPARE(log.take().size(), 1);
+    }
+
+    void writesOneElementForEachSystem()
+    {
+        addGlobal();
+        auto* const system = m_fixture->add(3, 0);
+        system->setName(QStringLiteral("Spindle"));
+        double offset[3] = {1, 2.5, -3};
+        double angles[3] = {0, 0, 0.5};
+        for (const int owner : {0, 3}) {
+            system->setType(BaseModule::CoordinateSystemType(owner + 1), owner, 99, -1);
+            system->setOffsetCoordinate(offset, owner, 99, -1);
+            system->setRotateDirection(angles, owner, 99, -1);
+            system->setActorRotateDirection({QStringLiteral("RotateZ"), 0.5}, owner, 99, -1);
+        }
+        registry()->writeConfig();
+        const char* const expected = "{\n"
+                                     "    \"m_IDList\": [\n        3\n    ],\n"
+                                     "    \"m_actorRoateDirList\": [\n        \"0:RotateZ,0.5;3:RotateZ,0.5\"\n    ],\n"
+                                     "    \"m_basicCoorSysIDList\": [\n        0\n    ],\n"
+                                     "    \"m_nameList\": [\n        \"Spindle\"\n    ],\n"
+                                     "    \"m_offsetCoordinateList\": [\n        \"0:1,2.5,-3;3:1,2.5,-3\"\n    ],\n"
+                                     "    \"m_rotateDirectionList\": [\n        \"0:0,0,0.5;3:0,0,0.5\"\n    ],\n"
+                                     "    \"m_typeList\": [\n        \"0:1;3:4\"\n    ]\n"
+                                     "}\n";
+        QCOMPARE(m_fixture->fileContent(), QByteArray(expected));
+    }
+
+    void writesAfterAppendingAndRemovingByID()
+    {
+        addGlobal();
+        registry()->appendCoordinateSystem(make(3, 0, QString(), 1));
+        RelativeCoordinateSystem* const removed = make(5, 3, QString(), 2);
+        registry()->appendCoordinateSystem(removed);
+        QCOMPARE(parsed(m_fixture->fileContent()).value(QLatin1String("m_IDList")).toArray(), (QJsonArray{3, 5}));
+        QCOMPARE(parsed(m_fixture->fileContent()).value(QLatin1String("m_basicCoorSysIDList")).toArray(),
+                 (QJsonArray{0, 3}));
+        registry()->removeCoordinateSystemByID({5});
+        QCOMPARE(parsed(m_fixture->fileContent()).value(QLatin1String("m_IDList")).toArray(), QJsonArray{3});
+        delete removed;
+    }
+
+    void leavesOutWhateverStandsFirst()
+    {
+        m_fixture->add(4);
+        m_fixture->add(0);
+        registry()->writeConfig();
+        QCOMPARE(parsed(m_fixture->fileContent()).value(QLatin1String("m_IDList")).toArray(), QJsonArray{0});
+    }
+
+    void announcesAWriteThatFails()
+    {
+        addGlobal();
+        BaseModule::GlobalHelper::setProjectTempIODir(QFileInfo(m_fixture->path()).path() + QStringLiteral("/missing"));
+        SignalLog log;
+        registry()->writeConfig();
+        QCOMPARE(log.take(), QStringList{QStringLiteral("title with [0] at 0")});
+        QVERIFY(!m_fixture->hasFile());
+        QByteArray out("kept");
+        registry()->dataToByteArray(&out);
+        QCOMPARE(out, QByteArray("kept"));
+    }
+
+    void doesNothingWithoutAReadableFile_data()
+    {
+        QTest::addColumn<bool>("isDirectory");
+        QTest::newRow("missing") << false;
+        QTest::newRow("a directory") << true;
+    }
+    void doesNothingWithoutAReadableFile()
+    {
+        QFETCH(bool, isDirectory);
+        if (isDirectory) {
+            QVERIFY(QDir().mkpath(m_fixture->path()));
+        }
+        addGlobal();
+        m_fixture->add(3);
+        m_fixture->add(5);
+        registry()->resetData();
+        const auto record = registry()->m_dataManager;
+        m_fixture->add(3);
+        m_fixture->add(5);
+        SignalLog log;
+        registry()->readConfig();
+        QCOMPARE(log.take(), QStringList());
+        QCOMPARE(m_fixture->ids(), (QList<int>{0, 3, 5}));
+        QCOMPARE(registry()->m_dataManager, record);
+    }
+
+    void readsBackWhatWasWritten_data()
+    {
+        QTest::addColumn<int>("count");
+        QTest::newRow("1") << 1;
+        QTest::newRow("10") << 10;
+        QTest::newRow("500") << 500;
+    }
+    void readsBackWhatWasWritten()
+    {
+        QFETCH(int, count);
+        std::mt19937 generator(static_cast<unsigned>(count));
+        addGlobal();
+        for (int id = 1; id <= count; ++id) {
+            const int basicID = static_cast<int>(generator() % static_cast<unsigned>(id));
+            registry()->m_coordinateSystemList.append(make(id, basicID, QString::number(id * 7), id));
+        }
+        registry()->writeConfig();
+        const QList<PlainSystem> written = plainRegistry();
+        registry()->resetData();
+        QCOMPARE(m_fixture->ids(), QList<int>{0});
+        registry()->readConfig();
+        QVERIFY(plainRegistry() == written);
+        QCOMPARE(RelativeCoordinateSystem::getMaxID(), count);
+    }
+
+    void announcesEachRebuiltSystemAfterItsWrite()
+    {
+        addGlobal();
+        QVERIFY(m_fixture->setFileContent(goodFile()));
+        SignalLog log;
+        QList<QJsonArray> written;
+        connect(BaseModule::IBaseSignal::getInstance(), &BaseModule::IBaseSignal::signal_updateWindowTitle, &log,
+                [&] { written.append(parsed(m_fixture->fileContent()).value(QLatin1String("m_IDList")).toArray()); });
+        registry()->readConfig();
+        QCOMPARE(log.take(),
+                 (QStringList{QStringLiteral("title with [0,3] at 0"), QStringLiteral("title with [0,3,5] at 0"),
+                              QStringLiteral("title with [0,3,5,9] at 0")}));
+        QCOMPARE(written, (QList<QJsonArray>{{3}, {3, 5}, {3, 5, 9}}));
+    }
+
+    void rebuildsEachChainOnThatOfItsBasicSystem()
+    {
+        readFile(goodFile());
+        QCOMPARE(m_fixture->ids(), (QList<int>{0, 3, 5, 9}));
+        QCOMPARE(chain(3, 0), (QStringList{QStringLiteral("0 0"), QStringLiteral("3 1"), QStringLiteral("5 2"),
+                                           QStringLiteral("9 3")}));
+        QCOMPARE(chain(3, 1).mid(1),
+                 (QStringList{QStringLiteral("3 1 2 3"), QStringLiteral("5 4 5 6"), QStringLiteral("9 7 8 9")}));
+        const RelativeCoordinateSystem* const system = registry()->getCoordinateSystemByID(9);
+        QVERIFY(system->getActor() == nullptr && system->getActorMatrix() == nullptr);
+        QCOMPARE(system->m_actorQuaternion[3], 0.0);
+    }
+
+    void rebuildsAStoredChainWithoutOwnersEntryByEntry()
+    {
+        readFile(
+            fileOf({{3}, {0}, {QString()}, {QStringLiteral("0:1;-4:2;0:3")}, {}, {}, {QStringLiteral("0:X,1;0:Y,2")}}));
+        QCOMPARE(chain(1, 0), (QStringList{QStringLiteral("0 1"), QStringLiteral("-4 2"), QStringLiteral("0 3")}));
+        QCOMPARE(chain(1, 3), (QStringList{QStringLiteral("X0 1"), QStringLiteral("Y0 2")}));
+        QCOMPARE(chain(1, 1), QStringList());
+    }
+
+    void keepsWhatFollowsTheLastOwner()
+    {
+        readFile(fileOf({{3}, {0}, {QString()}, {QStringLiteral("8:1;3:2;0:3;-1:4")}, {}, {}, {}}));
+        QCOMPARE(chain(1, 0), (QStringList{QStringLiteral("0 0"), QStringLiteral("3 2"), QStringLiteral("0 3"),
+                                           QStringLiteral("-1 4")}));
+    }
+
+    void keepsTheStoredChainOfAnOrphan()
+    {
+        readFile(fileOf({{3}, {77}, {QString()}, {QStringLiteral("0:1;2:5;3:2")}, {}, {}, {}}));
+        QCOMPARE(chain(1, 0), (QStringList{QStringLiteral("0 1"), QStringLiteral("2 5"), QStringLiteral("3 2")}));
+    }
+
+    void takesOutEverySecondSystemBeforeReading()
+    {
+        QVERIFY(m_fixture->setFileContent(fileOf({{}, {}, {}, {}, {}, {}, {}})));
+        const QByteArray before = m_fixture->fileContent();
+        QList<RelativeCoordinateSystem*> systems;
+        for (const int id : {0, 1, 2, 3, 4}) {
+            systems.append(m_fixture->add(id));
+        }
+        SignalLog log;
+        registry()->readConfig();
+        QCOMPARE(m_fixture->ids(), (QList<int>{0, 2, 4}));
+        QCOMPARE(log.take(), QStringList());
+        QCOMPARE(m_fixture->fileContent(), before);
+        QCOMPARE(systems.at(1)->getID(), 1);
+        delete systems.at(1);
+        delete systems.at(3);
+    }
+
+    void replacesTheHeldRecord()
+    {
+        addGlobal();
+        registry()->writeConfig();
+        const auto record = registry()->m_dataManager;
+        QVERIFY(m_fixture->setFileContent(QByteArray("{\"m_basicCoorSysIDList\": [8]}")));
+        registry()->readConfig();
+        QVERIFY(registry()->m_dataManager != record);
+        QCOMPARE(registry()->m_dataManager->getBasicCoorSysIDList(), QList<int>{8});
+    }
+
+    void readsListsOfUnequalLength()
+    {
+        readFile(fileOf({{3, 5}, {}, {QStringLiteral("only")}, {}, {QStringLiteral("3:1,2,3")}, {}, {}}));
+        QCOMPARE(m_fixture->ids(), (QList<int>{0, 3, 5}));
+        const QList<PlainSystem> systems = plainRegistry();
+        QCOMPARE(systems.at(1).name, QStringLiteral("only"));
+        QCOMPARE(systems.at(2).name, QString());
+        QCOMPARE(systems.at(2).basicID, 0);
+        QCOMPARE(systems.at(1).chains.at(1).last(), QStringLiteral("3 1 2 3"));
+        QCOMPARE(systems.at(2).chains, QVector<QStringList>(4));
+    }
+
+    void readsTheFirstThreeDoublesOfALevel_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("levels");
+        const QString global = LevelValues(0).texts(0).at(1);
+        QTest::newRow("three") << QStringLiteral("3:1,2,3") << QStringList{global, QStringLiteral("3 1 2 3")};
+        QTest::newRow("more") << QStringLiteral("3:1,2,3,4") << QStringList{global, QStringLiteral("3 1 2 3")};
+        QTest::newRow("fewer") << QStringLiteral("3:1,2") << QStringList();
+        QTest::newRow("none") << QStringLiteral("3:") << QStringList();
+        QTest::newRow("fewer in one level")
+            << QStringLiteral("2:1,2,3;3:1") << QStringList{global, QStringLiteral("2 1 2 3")};
+        QTest::newRow("no number") << QStringLiteral("3:1,2,x") << QStringList();
+    }
+    void readsTheFirstThreeDoublesOfALevel()
+    {
+        QFETCH(QString, text);
+        QFETCH(QStringList, levels);
+        readFile(fileOf({{3}, {0}, {QString()}, {}, {text}, {}, {}}));
+        QCOMPARE(chain(1, 1), levels);
+    }
+
+    void survivesLoopsAndRepeatedIDs()
+    {
+        readFile(fileOf({{3, 4, 4, 5, 0},
+                         {4, 3, 3, 5, 0},
+                         {},
+                         {QStringLiteral("3:1"), QStringLiteral("4:2"), QStringLiteral("4:3"), QStringLiteral("5:4"),
+                          QStringLiteral("0:5")},
+                         {},
+                         {QStringLiteral("3:0,0,1"), QStringLiteral("4:0,0,1"), QStringLiteral("4:1,0,0"),
+                          QStringLiteral("5:0,0,1"), QStringLiteral("0:1,0,0")},
+                         {}}));
+        QCOMPARE(m_fixture->ids(), (QList<int>{0, 3, 4, 4, 5, 0}));
+        QCOMPARE(chain(2, 0), (QStringList{QStringLiteral("3 1"), QStringLiteral("4 2")}));
+        for (int i = 0; i < 6; ++i) {
+            QVERIFY(!registry()->getCoordinateSystemByIndex(i)->getRotateDirection().isEmpty());
+            registry()->getCoordinateSystemByIndex(i)->getOffsetCoordinate();
+        }
+    }
+
+    void survivesAFileThatEndsAnywhere()
+    {
+        const QByteArray content = goodFile();
+        addGlobal();
+        for (int length = 0; length < content.size() - 2; ++length) {
+            QVERIFY(m_fixture->setFileContent(content.left(length)));
+            registry()->readConfig();
+            QCOMPARE(m_fixture->ids(), QList<int>{0});
+            QCOMPARE(m_fixture->fileContent(), content.left(length));
+        }
+    }
+
+    void survivesTextsThatAreDamagedAnywhere()
+    {
+        std::mt19937 generator(11);
+        const QByteArray content = goodFile();
+        addGlobal();
+        for (int i = 0; i < 300; ++i) {
+            QByteArray damaged = content;
+            damaged[static_cast<int>(generator() % static_cast<unsigned>(damaged.size()))] =
+                static_cast<char>(generator() % 256);
+            QVERIFY(m_fixture->setFileContent(damaged));
+            registry()->readConfig();
+            QVERIFY(registry()->getRelativeCoordinateSystemDateCount() <= 4);
+            for (int position = 0; position < registry()->getRelativeCoordinateSystemDateCount(); ++position) {
+                RelativeCoordinateSystem* const system = registry()->getCoordinateSystemByIndex(position);
+                system->getType();
+                system->getOffsetCoordinate();
+                QCOMPARE(system->getRotateDirection().size(), system->getRotateDirectionListPairList().size());
+            }
+            registry()->resetData();
+        }
+    }
+
+    void keepsAwkwardNames()
+    {
+        const QString name = QString::fromUcs4(U"\"\\;:,%\n\u00e9\u6797\U0001F9ED") + QChar(0) + QLatin1Char('e');
+        addGlobal();
+        registry()->appendCoordinateSystem(make(1, 0, name, 1));
+        registry()->appendCoordinateSystem(make(2, 0, QString(), 2));
+        setLevels(*registry()->getCoordinateSystemByID(2), LevelValues(1), 0, 0, 2);
+        registry()->getCoordinateSystemByID(2)->setActorRotateDirection({name, 1}, 0, 0, 2);
+        registry()->writeConfig();
+        const QList<PlainSystem> written = plainRegistry();
+        registry()->resetData();
+        registry()->readConfig();
+        QVERIFY(plainRegistry() == written);
+        QCOMPARE(plainRegistry().at(1).name, name);
+    }
+
+    void appendsTheFileToAByteArray()
+    {
+        QByteArray out("before ");
+        registry()->dataToByteArray(&out);
+        QCOMPARE(out, QByteArray("before "));
+        QVERIFY(!m_fixture->hasFile());
+        addGlobal();
+        SignalLog log;
+        registry()->dataToByteArray(nullptr);
+        QVERIFY(!m_fixture->hasFile());
+        registry()->dataToByteArray(&out);
+        QCOMPARE(log.take().size(), 1);
+        QVERIFY(m_fixture->hasFile());
+        QCOMPARE(out, QByteArray("before ") + m_fixture->fileContent());
+    }
+
+    void appendsAFileThatExistsAsItIs()
+    {
+        QVERIFY(m_fixture->setFileContent("not written by us"));
+        addGlobal();
+        SignalLog log;
+        QByteArray out;
+        registry()->dataToByteArray(&out);
+        QCOMPARE(out, QByteArray("not written by us"));
+        QCOMPARE(log.take(), QStringList());
+    }
+
+    void agreesWithAPlainModel_data()
+    {
+        QTest::addColumn<int>("seed");
+        for (int seed = 0; seed < 8; ++seed) {
+            QTest::addRow("seed %d", seed) << seed;
+        }
+    }
+    void agreesWithAPlainModel()
+    {
+        QFETCH(int, seed);
+        std::mt19937 generator(static_cast<unsigned>(seed));
+        const auto below = [&generator](int end) { return static_cast<int>(generator() % static_cast<unsigned>(end)); };
+        ChainModel model;
+        addGlobal();
+        model.append(0, 0, QString(), 0);
+        for (int step = 0, nextID = 1; step < 60; ++step) {
+            const int position = below(model.systems.size());
+            const int id = model.systems.at(position).id;
+            const int choice = below(10);
+            if (choice < 5) {
+                registry()->appendCoordinateSystem(make(nextID, id, QString::number(step), step));
+                model.append(nextID++, id, QString::number(step), step);
+            } else if (choice < 7) {
+                const int owner = below(nextID);
+                setLevels(*registry()->getCoordinateSystemByIndex(position), LevelValues(step), 1, 0, owner);
+                model.modify(position, owner, step);
+            } else if (choice < 8 && id != 0) {
+                RelativeCoordinateSystem* const removed = registry()->getCoordinateSystemByID(id);
+                registry()->removeCoordinateSystemByID({id});
+                model.remove(id);
+                delete removed;
+            } else {
+                registry()->writeConfig();
+                registry()->resetData();
+                registry()->readConfig();
+                model.reload();
+            }
+            QVERIFY2(plainRegistry() == model.systems, qPrintable(QString::number(step)));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(CoordinateSystemFileTest)
+#include "tst_coordinatesystemfile.moc"
