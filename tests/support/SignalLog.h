@@ -7,12 +7,16 @@
 
 #include <QStringList>
 
+#include <functional>
+#include <utility>
+
 /// One ordered log over every signal of the hub: name and arguments, one text a signal. Own signals of the object
-/// under test are appended to the same log by the test, so that their order against the hub's is seen.
+/// under test are appended to the same log by the test, so that their order against the hub's is seen. With a `state`,
+/// each entry ends with " | " and what it returns at that moment.
 class SignalLog
 {
 public:
-    SignalLog()
+    explicit SignalLog(std::function<QString()> state = {}) : m_state(std::move(state))
     {
         connectPlainSignals();
         connectSelectionSignals();
@@ -35,7 +39,10 @@ public:
         return entries;
     }
 
-    void append(const QString& entry) { m_entries.append(entry); }
+    void append(const QString& entry)
+    {
+        m_entries.append(m_state ? entry + QStringLiteral(" | ") + m_state() : entry);
+    }
 
 private:
     using Hub = BaseModule::IBaseSignal;
@@ -96,6 +103,7 @@ private:
         return texts.join(QLatin1Char(' '));
     }
 
+    std::function<QString()> m_state;
     QStringList m_entries;
     QList<QMetaObject::Connection> m_connections;
 };
