@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#pragma once
+
+#include <datamanager/datamanager_export.h>
+
+#include <basemodule/SelectModel.h>
+
+#include <QList>
+#include <QObject>
+#include <QPair>
+
+#include <deque>
+
+namespace DataModel {
+class SelectedDataBase;
+}
+
+namespace DataManager {
+
+/// What the user has selected in the 3-D view or the project tree, and what a click selects (the select model). Every
+/// change is told on the signal hub; docs/selection.md lists the signals of each call in their order.
+///
+/// An item is a pair of identifiers under a select model. It matches (model, a, b) when its model equals `model`, and
+/// a is negative or its first identifier, and b is negative or its second one: a negative identifier is a wildcard.
+///
+/// Signals are delivered synchronously and show the store as the call left it; only clearAllSelectedTarget tells of
+/// its items one by one. A listener may call back into the store from any signal: such a call finds the state that the
+/// signal shows, and takes full effect. User-interface thread only.
+class DATAMANAGER_EXPORT SelectedDataManager : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The store, created by the first call and never destroyed. Call init() once before using it.
+    static SelectedDataManager* getInstance();
+    /// Fills the pool of records, allows switching the select model and turns the highlight check off.
+    void init();
+
+    /// Selects the pairs that match no item yet, in their order; later pairs of the list see the earlier ones.
+    void addSelectedTargetList(BaseModule::SelectModel model, QList<QPair<int, int>> targetList);
+    /// For each pair, deselects the first item that it matches. A pair with a wildcard removes one item, too.
+    void removeSelectedTargetList(BaseModule::SelectModel model, QList<QPair<int, int>> targetList);
+    /// The same for the project tree: ignored while a dialog has fixed the current select model to another one than
+    /// 0, 1, 7 or 10.
+    void addSelectedTargetListByProjectTree(BaseModule::SelectModel model, QList<QPair<int, int>> targetList);
+    void removeSelectedTargetListByProjectTree(BaseModule::SelectModel model, QList<QPair<int, int>> targetList);
+    /// Deselects all items of the model whose first identifier equals one of the list, which has no wildcards. An item
+    /// that itself holds a negative identifier takes along what matches it as a wildcard.
+    void removeSelectedTargets(BaseModule::SelectModel model, QList<int> firstIDList);
+    /// Removes all items of the model, or those that match (model, firstID, -1), without a signal.
+    void deleteSelectedData(BaseModule::SelectModel model);
+    void deleteSelectedData(BaseModule::SelectModel model, int firstID);
+    /// Deselects everything. Items that a listener selects meanwhile stay selected.
+    void clearAllSelectedTarget();
+
+    /// The pairs of the model's items, in order of selection.
+    QList<QPair<int, int>> getSelectedDataBySelectedModel(BaseModule::SelectModel model) const;
+    /// The items in order of selection. The records stay owned by the store, which reuses them for later items.
+    QList<DataModel::SelectedDataBase*> getSelectedDataList() const;
+    int getDataCount() const;
+
+    BaseModule::SelectModel getSelectModel() const;
+    void getSelectModel(BaseModule::SelectModel& model) const;
+    /// Selects under another model for the lifetime of a dialog: remembers the current model as that of the main
+    /// window, deselects the items of other models and locks the model. A second dialog makes the first one's model
+    /// the remembered one.
+    void setSelectModelInDialog(BaseModule::SelectModel model);
+    /// Switches the model and deselects the items of other models; ignored while a dialog has locked it.
+    void setSelectModelInMainWindow(BaseModule::SelectModel model);
+    /// Unlocks the model and returns to that of the main window, or locks it as it is.
+    void setSwitchSelectModelEnable(bool isEnable);
+    bool canSwitchSelectModel() const;
+    /// Whether a click first asks signal_checkHighLight if the object may be highlighted.
+    void setHighLightCheckEnable(bool isEnable);
+    /// Deselects the first item that matches (current model, firstID, secondID), or else selects the pair.
+    void clickViewObject(int firstID, int secondID);
+
+    /// Whether an item with this first identifier is selected under a geometry model (0 to 5), a mesh model (7, 9 or
+    /// 10), or the mesh group model (10).
+    bool getGeometryIsHighLight(int id) const;
+    bool getMeshIsHighLight(int id) const;
+    bool getMeshGroupIsHighLight(int id) const;
+
+private:
+    SelectedDataManager() = default;
+    ~SelectedDataManager() override;
+
+    void addSelectData(BaseModule::SelectModel model, int firstID, int secondID);
+    void removeSelectData(BaseModule::SelectModel model, int firstID, int secondID);
+    bool hasSameSelectedData(BaseModule::SelectModel model, int firstID, int secondID) const;
+    void setSelectModel(BaseModule::SelectModel model);
+
+    static SelectedDataManager* m_instance;
+
+    QList<DataModel::SelectedDataBase*> m_selectedDataList;
+    BaseModule::SelectModel m_selectModel = BaseModule::SelectModel(0);
+    bool m_isPoolClosed = false;
+    std::deque<DataModel::SelectedDataBase*> m_dataPool;
+    bool m_isHighLightCheckEnable = false;
+    bool m_isCanSwitchSelectModel = true;
+    BaseModule::SelectModel m_mainWindowSelectModel = BaseModule::SelectModel(0);
+};
+
+} // namespace DataManager
