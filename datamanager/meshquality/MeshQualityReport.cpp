@@ -1,0 +1,197 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <datamanager/meshquality/MeshQualityReport.h>
+
+#include <datamanager/meshquality/private/FeatureSums.h>
+#include <datamanager/meshquality/private/FieldCursor.h>
+#include <datamanager/meshquality/private/MeshHeader.h>
+
+#include <QFileInfo>
+
+namespace DataManager {
+
+/// Collects what a scan meets, with the places in the file.
+class MeshQualityReport::Scan : public MeshTables
+{
+public:
+    Scan(const QString& path, const Progress& progress) : m_source(path), m_progress(progress) {}
+
+    /// False when the file was not read to its end.
+    bool run()
+    {
+        scanMesh(m_source, *this);
+        return !m_isCancelled && m_isHeaderReadable;
+    }
+    bool isOpen() const { return m_source.isOpen(); }
+    bool isCancelled() const { return m_isCancelled; }
+
+    void tetrahedron(const NodeNumbers& corners, TextRange line)
+    {
+        MeshTables::tetrahedron(corners, line);
+        FieldCursor field(line);
+        tags.push_back(field.toInt());
+        field.next(); // type
+        field.next(); // number of tags
+        field.next();
+        physicalTags.push_back(field.toInt());
+        lines.push_back(m_source.lineNumber());
+    }
+    void shortNode() { skip(m_source.lineNumber(), SkipReason::ShortNode); }
+    void shortTetrahedron() { skip(m_source.lineNumber(), SkipReason::ShortTetrahedron); }
+    bool outside(TextRange line) { return m_isHeaderReadable = header.take(line); }
+    bool proceeds()
+    {
+        constexpr qint64 linesBetweenCalls = 1 << 15;
+        if (m_progress && m_source.lineNumber() % linesBetweenCalls == 0) {
+            m_isCancelled = !m_progress(m_source.bytesRead(), m_source.size());
+        }
+        return !m_isCancelled;
+    }
+
+    void removeUnconnected()
+    {
+        const std::vector<std::size_t> removed = MeshTables::removeUnconnected();
+        for (const std::size_t element : removed) {
+            skip(lines[element], SkipReason::MissingNode);
+        }
+        removeAt(tags, removed);
+        removeAt(physicalTags, removed);
+        removeAt(lines, removed);
+        std::sort(skippedLines.begin(), skippedLines.end(),
+                  [](const SkippedLine& a, const SkippedLine& b) { return a.line < b.line; });
+    }
+
+    MeshHeader header;
+    std::vector<int> tags;
+    std::vector<int> physicalTags;
+    std::vector<qint64> lines;
+    std::vector<SkippedLine> skippedLines;
+
+private:
+    void skip(qint64 line, SkipReason reason) { skippedLines.push_back({line, reason}); }
+
+    LineSource m_source;
+    const Progress& m_progress;
+    bool m_isCancelled = false;
+    bool m_isHeaderReadable = true;
+};
+
+namespace {
+
+bool repeatsNode(const NodeNumbers& n)
+{
+    return n[0] == n[1] || n[0] == n[2] || n[0] == n[3] || n[1] == n[2] || n[1] == n[3] || n[2] == n[3];
+}
+
+std::array<double, 3> centre(const Tetrahedron::Corners& p)
+{
+    return {(p[0].x + p[1].x + p[2].x + p[3].x) / 4.0, (p[0].y + p[1].y + p[2].y + p[3].y) / 4.0,
+            (p[0].z + p[1].z + p[2].z + p[3].z) / 4.0};
+}
+
+/// All metrics but those that need the mean volume, which are left at 0.
+std::array<double, MeshQualityReport::metricCount> inOrder(const Tetrahedron::Measures& m)
+{
+    return {m.volume,      m.edgeRatio, m.aspectRatio,    m.aspectGamma, m.condition, m.jacobian,
+            m.radiusRatio, 0.0,         m.scaledJacobian, m.shape,       0.0};
+}
+
+QString conversionAdvice(const QString& format, const QString& path)
+{
+    QString quoted = path;
+    quoted.replace(QLatin1String("'"), QLatin1String("'\\''"));
+    return QStringLiteral("%1, not MSH 2 ASCII; convert it with: gmsh -save -format msh22 -o converted.msh '%2'")
+        .arg(format, quoted);
+}
+
+} // namespace
+
+QString MeshQualityReport::metricName(Metric metric)
+{
+    static const std::array<const char*, metricCount> names{
+        "Volume",      "EdgeRatio",           "AspectRatio",    "AspectGamma", "Condition",   "Jacobian",
+        "RadiusRatio", "RelativeSizeSquared", "ScaledJacobian", "Shape",       "ShapeAndSize"};
+    return QString::fromLatin1(names[static_cast<std::size_t>(metric)]);
+}
+
+bool MeshQualityReport::fail(Problem problem, const QString& text)
+{
+    *this = MeshQualityReport();
+    m_problem = problem;
+    m_problemText = text;
+    return false;
+}
+
+bool MeshQualityReport::measure(const QString& path, const Progress& progress)
+{
+    *this = MeshQualityReport();
+    const QFileInfo file(path);
+    if (!file.exists()) {
+        return fail(Problem::Missing, QStringLiteral("no such file"));
+    }
+    if (!file.isFile()) {
+        return fail(Problem::NotRegularFile, QStringLiteral("not a regular file"));
+    }
+    Scan scan(path, progress);
+    if (!scan.isOpen()) {
+        return fail(Problem::Unreadable, QStringLiteral("cannot be opened"));
+    }
+    const bool isComplete = scan.run();
+    if (scan.isCancelled()) {
+        return fail(Problem::Cancelled, QStringLiteral("cancelled"));
+    }
+    if (!isComplete || !scan.header.isReadable()) {
+        return fail(Problem::WrongFormat, conversionAdvice(scan.header.formatText(), path));
+    }
+    scan.removeUnconnected();
+    if (scan.tetrahedra.empty()) {
+        return fail(Problem::NoTetrahedra, QStringLiteral("no tetrahedra"));
+    }
+    take(scan);
+    return true;
+}
+
+void MeshQualityReport::take(Scan& scan)
+{
+    measureElements(scan);
+    m_nodeCount = static_cast<qint64>(scan.nodes.size());
+    m_tags = std::move(scan.tags);
+    m_physicalTags = std::move(scan.physicalTags);
+    m_lines = std::move(scan.lines);
+    m_skippedLines = std::move(scan.skippedLines);
+    m_groupNames = scan.header.groupNames();
+}
+
+void MeshQualityReport::measureElements(const Scan& scan)
+{
+    const std::size_t count = scan.tetrahedra.size();
+    for (std::vector<double>& list : m_values) {
+        list.resize(count);
+    }
+    m_centroids.resize(count);
+    FeatureSums sums;
+    for (std::size_t i = 0; i < count; ++i) {
+        const Tetrahedron::Corners corners = scan.corners(i);
+        const Tetrahedron::Measures measures = Tetrahedron::measures(corners);
+        sums.add(measures);
+        const auto values = inOrder(measures);
+        for (std::size_t metric = 0; metric < values.size(); ++metric) {
+            m_values[metric][i] = values[metric];
+        }
+        m_centroids[i] = centre(corners);
+        m_invertedCount += measures.volume < 0.0 ? 1 : 0;
+        m_flatCount += measures.volume == 0.0 ? 1 : 0;
+        m_duplicateNodeCount += repeatsNode(scan.tetrahedra[i]) ? 1 : 0;
+    }
+    const double mean = sums.meanVolume();
+    for (std::size_t i = 0; i < count; ++i) {
+        const double relativeSize = Tetrahedron::relativeSize(values(Metric::Volume)[i], mean);
+        m_values[static_cast<std::size_t>(Metric::RelativeSizeSquared)][i] = relativeSize;
+        m_values[static_cast<std::size_t>(Metric::ShapeAndSize)][i] =
+            Tetrahedron::shapeAndSize(values(Metric::Shape)[i], relativeSize);
+    }
+    m_features = sums.means();
+}
+
+} // namespace DataManager
