@@ -1,0 +1,50 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 DataManager contributors
+# SPDX-License-Identifier: BSD-3-Clause
+"""Makes the small models of this folder, which test what the predictor does with a model. Needs python3-onnx."""
+
+import pathlib
+
+import numpy
+from onnx import TensorProto, helper, numpy_helper, save
+
+HERE = pathlib.Path(__file__).resolve().parent
+INPUT, OUTPUT = "onnx::Gemm_0", "19"
+
+
+def write(name, nodes, initializers, input_shape=(1, 11), input_type=TensorProto.FLOAT, output_shape=(1, 1),
+          output_type=TensorProto.FLOAT, input_name=INPUT, output_name=OUTPUT):
+    graph = helper.make_graph(
+        nodes, name,
+        [helper.make_tensor_value_info(input_name, input_type, input_shape)],
+        [helper.make_tensor_value_info(output_name, output_type, output_shape)],
+        [numpy_helper.from_array(array, key) for key, array in initializers.items()])
+    model = helper.make_model(graph, opset_imports=[helper.make_opsetid("", 13)], producer_name="make_models.py")
+    model.ir_version = 7
+    save(model, str(HERE / f"{name}.onnx"))
+
+
+def constant(name, array, output_type=TensorProto.FLOAT):
+    write(name, [helper.make_node("Identity", ["value"], [OUTPUT])], {"value": array},
+          output_shape=array.shape, output_type=output_type)
+
+
+def weighted_sum(name, weights, dtype=numpy.float32, **rest):
+    column = numpy.asarray(weights, dtype=dtype).reshape(-1, 1)
+    nodes = [helper.make_node("MatMul", [rest.get("input_name", INPUT), "weights"], [rest.get("output_name", OUTPUT)])]
+    write(name, nodes, {"weights": column}, **rest)
+
+
+constant("above-one", numpy.array([[1.7]], dtype=numpy.float32))
+constant("below-zero", numpy.array([[-0.2]], dtype=numpy.float32))
+constant("not-a-number", numpy.array([[numpy.nan]], dtype=numpy.float32))
+constant("integer-output", numpy.array([[1]], dtype=numpy.int64), TensorProto.INT64)
+constant("double-output", numpy.array([[0.5]], dtype=numpy.float64), TensorProto.DOUBLE)
+constant("empty-output", numpy.zeros((0,), dtype=numpy.float32))
+weighted_sum("volume", [1.0] + [0.0] * 10)
+weighted_sum("last-feature", [0.0] * 10 + [1.0])
+weighted_sum("five-inputs", [0.1] * 5, input_shape=(1, 5))
+weighted_sum("double-input", [0.1] * 11, numpy.float64, input_type=TensorProto.DOUBLE, output_type=TensorProto.DOUBLE)
+weighted_sum("rank-one-input", [0.1] * 11, input_shape=(11,), output_shape=(1,))
+weighted_sum("other-input-name", [0.1] * 11, input_name="input")
+weighted_sum("other-output-name", [0.1] * 11, output_name="output")

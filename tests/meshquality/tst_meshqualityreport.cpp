@@ -1,0 +1,244 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "LiteralPipeline.h"
+#include "MeshFiles.h"
+#include "SameValues.h"
+
+#include <datamanager/meshquality/MeshQualityReport.h>
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cmath>
+#include <sys/stat.h>
+
+using DataManager::MeshQualityReport;
+using Metric = MeshQualityReport::Metric;
+using Problem = MeshQualityReport::Problem;
+using SkipReason = MeshQualityReport::SkipReason;
+
+Q_DECLARE_METATYPE(MeshQualityReport::Problem)
+
+class MeshQualityReportTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void agreesWithLiteralPipeline_data();
+    void agreesWithLiteralPipeline();
+    void keepsPlacesInTheFile();
+    void countsBadElements();
+    void tellsSkippedLines();
+    void tellsWhatIsWrong_data();
+    void tellsWhatIsWrong();
+    void acceptsVersion2_data();
+    void acceptsVersion2();
+    void forgetsTheMeshBefore();
+    void reportsProgressAndIsCancelled();
+
+private:
+    QString file(const QByteArray& content)
+    {
+        MeshFiles::write(m_directory.filePath(QStringLiteral("mesh.msh")), content);
+        return m_directory.filePath(QStringLiteral("mesh.msh"));
+    }
+
+    QTemporaryDir m_directory;
+};
+
+void MeshQualityReportTest::agreesWithLiteralPipeline_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    for (const QString& sample : MeshFiles::samples()) {
+        QFile mesh(sample);
+        QVERIFY(mesh.open(QIODevice::ReadOnly));
+        QTest::newRow(qPrintable(sample)) << mesh.readAll();
+    }
+    for (const auto& [name, content] : MeshFiles::hostile()) {
+        QTest::newRow(name.constData()) << content;
+    }
+}
+
+void MeshQualityReportTest::agreesWithLiteralPipeline()
+{
+    QFETCH(QByteArray, content);
+    const QString path = file(content);
+    const LiteralPipeline::Mesh mesh = LiteralPipeline::read(path);
+    MeshQualityReport report;
+    if (!report.measure(path)) {
+        QVERIFY(report.problem() == Problem::WrongFormat || mesh.elements.isEmpty());
+        QCOMPARE(report.elementCount(), 0);
+        return;
+    }
+    QCOMPARE(report.elementCount(), mesh.elements.size());
+    QCOMPARE(report.nodeCount(), qint64(mesh.nodes.size()));
+    const auto expected = LiteralPipeline::metrics(mesh);
+    for (int i = 0; i < MeshQualityReport::metricCount; ++i) {
+        const std::vector<double>& values = report.values(static_cast<Metric>(i));
+        QVERIFY(SameValues::same(QVector<double>(values.begin(), values.end()), expected[static_cast<std::size_t>(i)]));
+    }
+    QVERIFY(SameValues::same(report.features(), LiteralPipeline::features(path)));
+}
+
+void MeshQualityReportTest::keepsPlacesInTheFile()
+{
+    QByteArray content =
+        MeshFiles::mesh({"1 0 0 0", "2 1 0 0", "3 0 1 0", "4 0 0 1", "5 4 4 4"},
+                        {"7 2 2 5 1 1 2 3", "8 4 2 6 1 1 2 3 4", "9 4 2 0 1 1 2 3 9", "30 4 2 7 1 2 3 4 5"});
+    content.replace("$Nodes",
+                    "$PhysicalNames\n3\n2 6 \"skin\"\n3 6 \"first part\"\n3 7 \"\xc3\xa9\"\n$EndPhysicalNames\n$Nodes");
+    MeshQualityReport report;
+    QVERIFY(report.measure(file(content)));
+    QCOMPARE(report.elementCount(), 2);
+    QCOMPARE(report.tag(0), 8);
+    QCOMPARE(report.tag(1), 30);
+    QCOMPARE(report.physicalTag(0), 6);
+    QCOMPARE(report.physicalTag(1), 7);
+    QCOMPARE(report.line(0), qint64(21));
+    QCOMPARE(report.line(1), qint64(23));
+    QCOMPARE(report.centroid(0), (std::array<double, 3>{0.25, 0.25, 0.25}));
+    QCOMPARE(report.groupNames(), (QMap<int, QString>{{6, QStringLiteral("first part")}, {7, QStringLiteral("é")}}));
+}
+
+void MeshQualityReportTest::countsBadElements()
+{
+    MeshQualityReport report;
+    QVERIFY(report.measure(file(MeshFiles::mesh(
+        {"1 0 0 0", "2 1 0 0", "3 0 1 0", "4 0 0 1", "5 1 1 0"},
+        {"1 4 2 0 1 1 2 3 4", "2 4 2 0 1 1 3 2 4", "3 4 2 0 1 1 2 3 5", "4 4 2 0 1 1 1 2 3", "5 4 2 0 1 2 1 3 4"}))));
+    QCOMPARE(report.elementCount(), 5);
+    QCOMPARE(report.invertedCount(), 2);
+    QCOMPARE(report.flatCount(), 2);
+    QCOMPARE(report.duplicateNodeCount(), 1);
+}
+
+void MeshQualityReportTest::tellsSkippedLines()
+{
+    const QByteArray content =
+        "$MeshFormat\n2.2 0 8\n$EndMeshFormat\n"
+        "$Elements\n4\n1 4 2 0 1 1 2 3 4\n2 4 2 0 1 1 2 3 5\n3 4 2 0 1\n4 4 2 0 1 0 2 3 4\n$EndElements\n"
+        "$Nodes\n5\n1 0 0 0\n1 2 3\n2 1 0 0\n3 0 1 0\n4 0 0 1\n$EndNodes\n";
+    MeshQualityReport report;
+    QVERIFY(report.measure(file(content)));
+    QCOMPARE(report.elementCount(), 1);
+    QCOMPARE(report.nodeCount(), qint64(4));
+    const std::vector<MeshQualityReport::SkippedLine>& lines = report.skippedLines();
+    QCOMPARE(lines.size(), std::size_t(4));
+    const QVector<QPair<qint64, SkipReason>> expected{{7, SkipReason::MissingNode},
+                                                      {8, SkipReason::ShortTetrahedron},
+                                                      {9, SkipReason::MissingNode},
+                                                      {14, SkipReason::ShortNode}};
+    for (int i = 0; i < 4; ++i) {
+        QCOMPARE(lines[static_cast<std::size_t>(i)].line, expected.at(i).first);
+        QVERIFY(lines[static_cast<std::size_t>(i)].reason == expected.at(i).second);
+    }
+}
+
+void MeshQualityReportTest::tellsWhatIsWrong_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<Problem>("problem");
+    QTest::addColumn<QString>("text");
+
+    const QString pipe = m_directory.filePath(QStringLiteral("pipe"));
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QTest::newRow("missing") << m_directory.filePath(QStringLiteral("none")) << Problem::Missing << "no such file";
+    QTest::newRow("directory") << m_directory.path() << Problem::NotRegularFile << "not a regular file";
+    QTest::newRow("pipe") << pipe << Problem::NotRegularFile << "not a regular file";
+    QTest::newRow("device") << QStringLiteral("/dev/zero") << Problem::NotRegularFile << "not a regular file";
+
+    const auto row = [this](const char* name, const QByteArray& content, Problem problem, const QString& text) {
+        const QString path = m_directory.filePath(QStringLiteral("it's %1.msh").arg(QString::fromLatin1(name)));
+        MeshFiles::write(path, content);
+        QTest::newRow(name) << path << problem << QString(text).replace(QStringLiteral("%1"), m_directory.path());
+    };
+    const auto advice = [](const char* format, const char* name) {
+        return QStringLiteral("%2, not MSH 2 ASCII; convert it with: gmsh -save -format msh22 -o converted.msh "
+                              "'%1/it'\\''s %3.msh'")
+            .arg(QStringLiteral("%1"), QString::fromLatin1(format), QString::fromLatin1(name));
+    };
+    row("empty", "", Problem::WrongFormat, advice("a file without $MeshFormat", "empty"));
+    row("version 1", "$NOD\n1\n1 0 0 0\n$ENDNOD\n", Problem::WrongFormat, advice("MSH 1 ASCII", "version 1"));
+    row("version 4.1", "$MeshFormat\n4.1 0 8\n$EndMeshFormat\n", Problem::WrongFormat,
+        advice("MSH 4.1 ASCII", "version 4.1"));
+    row("version 2.x", "$MeshFormat\n2.x 0 8\n$EndMeshFormat\n", Problem::WrongFormat,
+        advice("MSH 2.x ASCII", "version 2.x"));
+    row("binary", QByteArray("$MeshFormat\n2.2 1 8\n\1\0\0\0\n$EndMeshFormat\n", 42), Problem::WrongFormat,
+        advice("MSH 2.2 binary", "binary"));
+    row("no header", "$Nodes\n1\n1 0 0 0\n$EndNodes\n", Problem::WrongFormat,
+        advice("a file without $MeshFormat", "no header"));
+    row("no tetrahedra", MeshFiles::mesh({"1 0 0 0"}, {"1 15 2 0 1 1"}), Problem::NoTetrahedra,
+        QStringLiteral("no tetrahedra"));
+}
+
+void MeshQualityReportTest::tellsWhatIsWrong()
+{
+    QFETCH(QString, path);
+    MeshQualityReport report;
+    QVERIFY(!report.measure(path));
+    QTEST(report.problem(), "problem");
+    QTEST(report.problemText(), "text");
+    QCOMPARE(report.elementCount(), 0);
+}
+
+void MeshQualityReportTest::acceptsVersion2_data()
+{
+    QTest::addColumn<QByteArray>("header");
+    QTest::newRow("2.2") << QByteArray("2.2 0 8");
+    QTest::newRow("2") << QByteArray("2 0 8");
+    QTest::newRow("2.0 CRLF") << QByteArray("2.0 0 8\r");
+    QTest::newRow("2.1, blanks") << QByteArray(" 2.1  0  8 ");
+}
+
+void MeshQualityReportTest::acceptsVersion2()
+{
+    QFETCH(QByteArray, header);
+    MeshQualityReport report;
+    QVERIFY(report.measure(file(MeshFiles::oneTetrahedron(MeshFiles::regular()).replace("2.2 0 8", header))));
+    QVERIFY(report.problem() == Problem::None);
+    QVERIFY(report.problemText().isEmpty());
+}
+
+void MeshQualityReportTest::forgetsTheMeshBefore()
+{
+    MeshQualityReport report;
+    QVERIFY(report.measure(MeshFiles::samples().first()));
+    QVERIFY(report.measure(file(MeshFiles::oneTetrahedron(MeshFiles::regular()))));
+    QCOMPARE(report.elementCount(), 1);
+    QCOMPARE(report.values(Metric::Shape).size(), std::size_t(1));
+    QVERIFY(!report.measure(m_directory.path()));
+    QCOMPARE(report.elementCount(), 0);
+    QCOMPARE(report.nodeCount(), qint64(0));
+    QVERIFY(report.values(Metric::Shape).empty());
+}
+
+void MeshQualityReportTest::reportsProgressAndIsCancelled()
+{
+    QList<QByteArray> lines;
+    for (int i = 0; i < 200000; ++i) {
+        lines.append("1 0 0 0");
+    }
+    const QString path = file(MeshFiles::mesh(lines, {"1 4 2 0 1 1 2 3 4"}));
+    const qint64 size = QFileInfo(path).size();
+    MeshQualityReport report;
+    qint64 last = -1;
+    int calls = 0;
+    QVERIFY(report.measure(path, [&](qint64 read, qint64 total) {
+        const bool isForward = read >= last && total == size;
+        last = read;
+        ++calls;
+        return isForward;
+    }));
+    QVERIFY(calls > 3);
+    QVERIFY(last > size / 2);
+    QVERIFY(last <= size);
+
+    calls = 0;
+    QVERIFY(!report.measure(path, [&calls](qint64, qint64) { return ++calls < 3; }));
+    QCOMPARE(calls, 3);
+    QVERIFY(report.problem() == Problem::Cancelled);
+}
+
+QTEST_GUILESS_MAIN(MeshQualityReportTest)
+#include "tst_meshqualityreport.moc"
