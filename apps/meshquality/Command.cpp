@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <meshquality/Command.h>
+
+#include <meshquality/Console.h>
+#include <meshquality/PredictCommand.h>
+#include <meshquality/ReportCommand.h>
+
+namespace MeshQuality {
+
+namespace {
+
+const char* const helpText = R"(Quality of tetrahedral meshes in MSH 2 ASCII.
+
+  meshquality report [--json FILE|-] [--model FILE] MESH...
+      Counts, the means of eleven metrics, and the model's score of each mesh.
+      --json FILE   also as JSON into a file, or with - onto standard output instead of the table
+      --model FILE  another model than ../mesher/mesh.onnx beside the program
+  meshquality predict
+      Scores ../temp/mesh.msh beside the program, as an application does, and
+      prints the history of the last ten scores, oldest first.
+  meshquality --help
+  meshquality --version
+
+Exit codes: 0 ok, 2 wrong call, 3 a mesh cannot be read, 4 the model cannot be used.
+)";
+
+} // namespace
+
+ExitCode runCommand(const QStringList& arguments)
+{
+    const QString command = arguments.value(1);
+    const QStringList rest = arguments.mid(1);
+    if (rest.contains(QStringLiteral("--help"))) {
+        Console::print(QString::fromUtf8(helpText));
+        return Success;
+    }
+    if (command == QLatin1String("--version")) {
+        Console::print(QStringLiteral("meshquality " MESHQUALITY_VERSION "\n"));
+        return Success;
+    }
+    if (command == QLatin1String("report")) {
+        return runReport(rest);
+    }
+    if (command == QLatin1String("predict")) {
+        return runPredict(rest);
+    }
+    Console::printUsageError(command.isEmpty() ? QStringLiteral("no command is given")
+                                               : QStringLiteral("unknown command '%1'").arg(command));
+    return UsageError;
+}
+
+} // namespace MeshQuality
