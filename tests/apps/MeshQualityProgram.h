@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+
+/// What one run of the program left behind.
+struct ProgramRun
+{
+    int exitCode = -1;
+    QByteArray output;
+    QByteArray errors;
+};
+
+/// Runs the program that was built, or a copy of it.
+ProgramRun runMeshQuality(const QStringList& arguments, const QString& program = QString());

@@ -1,0 +1,348 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "MeshQualityProgram.h"
+
+#include "meshquality/LiteralPipeline.h"
+#include "meshquality/MeshFiles.h"
+
+#include <datamanager/meshquality/MeshQualityPredict.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <sys/stat.h>
+
+class MeshQualityProgramTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tellsAboutItself_data();
+    void tellsAboutItself();
+    void refusesWrongCalls_data();
+    void refusesWrongCalls();
+    void reportsForPeople();
+    void explainsMissingScores();
+    void tellsSkippedLines();
+    void reportsForPrograms();
+    void writesJsonIntoFile();
+    void writesNullForNoNumber();
+    void refusesUnreadableMeshes_data();
+    void refusesUnreadableMeshes();
+    void goesOnAfterUnreadableMesh();
+    void tellsOfModelTrouble_data();
+    void tellsOfModelTrouble();
+    void takesAnyPath();
+    void predictsOnTheApplicationLayout();
+    void refusesToPredict();
+
+private:
+    QString path(const char* name) const { return m_directory.filePath(QString::fromUtf8(name)); }
+    QString file(const char* name, const QByteArray& content) const
+    {
+        MeshFiles::write(path(name), content);
+        return path(name);
+    }
+    static QString model(const char* name)
+    {
+        return QStringLiteral(DATAMANAGER_SOURCE_DIR "/tests/meshquality/models/%1.onnx")
+            .arg(QString::fromLatin1(name));
+    }
+    /// A copy of the program in an application directory of its own.
+    QString installedProgram() const
+    {
+        QDir(m_directory.path()).mkpath(QStringLiteral("application/bin"));
+        QDir(m_directory.path()).mkpath(QStringLiteral("application/mesher"));
+        QDir(m_directory.path()).mkpath(QStringLiteral("application/temp"));
+        const QString program = path("application/bin/meshquality");
+        QFile::copy(QStringLiteral(MESHQUALITY_PROGRAM), program);
+        return program;
+    }
+
+    QTemporaryDir m_directory;
+};
+
+namespace {
+
+const QString slivers = QStringLiteral(DATAMANAGER_SOURCE_DIR "/samples/slivers.msh");
+const QStringList report{QStringLiteral("report")};
+
+QJsonObject onlyObject(const QByteArray& json)
+{
+    const QJsonArray array = QJsonDocument::fromJson(json).array();
+    return array.size() == 1 ? array.first().toObject() : QJsonObject();
+}
+
+float scoreOf(const QString& mesh)
+{
+    std::array<float, 11> features = LiteralPipeline::features(mesh);
+    DataManager::MeshQualityPredict predict;
+    predict.loadModel(DATAMANAGER_SOURCE_DIR "/model/mesh.onnx", "onnx::Gemm_0", "19");
+    predict.setFigureParameter(11);
+    return predict.inferFigure(features.data());
+}
+
+} // namespace
+
+void MeshQualityProgramTest::tellsAboutItself_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("start");
+    QTest::newRow("--version") << QStringList{QStringLiteral("--version")}
+                               << QByteArray("meshquality " MESHQUALITY_VERSION "\n");
+    QTest::newRow("--help") << QStringList{QStringLiteral("--help")} << QByteArray("Quality of tetrahedral meshes");
+    QTest::newRow("report --help") << (report + QStringList{QStringLiteral("--help")})
+                                   << QByteArray("Quality of tetrahedral meshes");
+}
+
+void MeshQualityProgramTest::tellsAboutItself()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, start);
+    const ProgramRun run = runMeshQuality(arguments);
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY(run.output.startsWith(start));
+    QCOMPARE(run.errors, QByteArray());
+}
+
+void MeshQualityProgramTest::refusesWrongCalls_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("what");
+    const auto row = [](const char* call, const char* what) {
+        QTest::newRow(call) << QString::fromLatin1(call).split(QLatin1Char(' '), Qt::SkipEmptyParts)
+                            << QByteArray(what);
+    };
+    row("", "no command is given");
+    row("rate a.msh", "unknown command 'rate'");
+    row("report", "no mesh is given");
+    row("report --json out.json", "no mesh is given");
+    row("report --jsn a.msh", "Unknown option 'jsn'.");
+    row("report a.msh --model", "Missing value after '--model'.");
+    row("report --json= a.msh", "--json needs a file");
+    row("predict a.msh", "predict takes no arguments");
+}
+
+void MeshQualityProgramTest::refusesWrongCalls()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, what);
+    const ProgramRun run = runMeshQuality(arguments);
+    QCOMPARE(run.exitCode, 2);
+    QCOMPARE(run.output, QByteArray());
+    QCOMPARE(run.errors, "meshquality: " + what + "; see meshquality --help\n");
+}
+
+void MeshQualityProgramTest::reportsForPeople()
+{
+    const ProgramRun run = runMeshQuality(report + QStringList{slivers});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.errors, QByteArray());
+    const QString output = QString::fromUtf8(run.output);
+    const std::array<float, 11> features = LiteralPipeline::features(slivers);
+    const QStringList names{
+        QStringLiteral("Volume"),      QStringLiteral("EdgeRatio"),           QStringLiteral("AspectRatio"),
+        QStringLiteral("AspectGamma"), QStringLiteral("Condition"),           QStringLiteral("Jacobian"),
+        QStringLiteral("RadiusRatio"), QStringLiteral("RelativeSizeSquared"), QStringLiteral("ScaledJacobian"),
+        QStringLiteral("Shape"),       QStringLiteral("ShapeAndSize")};
+    for (int i = 0; i < names.size(); ++i) {
+        const QRegularExpression line(QStringLiteral("^  %1 +(\\S+)").arg(names.at(i)),
+                                      QRegularExpression::MultilineOption);
+        const QString mean = line.match(output).captured(1);
+        QCOMPARE(mean, QString::number(static_cast<double>(features[static_cast<std::size_t>(i)]), 'g', 6));
+    }
+    QVERIFY(output.contains(QStringLiteral("777 nodes, 3156 tetrahedra (0 inverted, 0 flat)")));
+    QVERIFY(output.contains(QStringLiteral("score %1 (").arg(static_cast<double>(scoreOf(slivers)), 0, 'g', 6)));
+    QVERIFY(!output.contains(QStringLiteral("skipped")));
+}
+
+void MeshQualityProgramTest::explainsMissingScores()
+{
+    QList<QByteArray> elements{"70 4 2 0 1 1 2 3 4", "71 4 2 0 1 1 2 3 5"};
+    for (int i = 0; i < 5; ++i) {
+        elements.append(QByteArray::number(80 + i) + " 4 2 0 1 1 3 2 4");
+    }
+    const QByteArray content = MeshFiles::mesh({"1 0 0 0", "2 1 0 0", "3 0 1 0", "4 0 0 1", "5 1 1 0"}, elements);
+    const ProgramRun run = runMeshQuality(report + QStringList{file("inverted.msh", content)});
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY(run.output.contains("(5 inverted, 1 flat)"));
+    QVERIFY(run.output.contains("score nan: "));
+    QVERIFY(run.output.contains("element 71 (line 15): flat\n"));
+    QVERIFY(run.output.contains("element 80 (line 16): inverted\n"));
+    QVERIFY(run.output.contains("and 1 more\n"));
+    QVERIFY(!run.output.contains("element 70"));
+}
+
+void MeshQualityProgramTest::tellsSkippedLines()
+{
+    const QByteArray content = MeshFiles::mesh({"1 0 0 0", "2 1 0 0", "3 0 1 0", "4 0 0 1"},
+                                               {"1 4 2 0 1 1 2 3 4", "2 4 2 0 1 1 2 3", "3 4 2 0 1 1 2 3 5"});
+    const ProgramRun run = runMeshQuality(report + QStringList{file("skipped.msh", content)});
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY(run.output.contains("  2 lines skipped:\n    line 14: a tetrahedron needs nine columns\n"
+                                "    line 15: names a node that is not there"));
+}
+
+void MeshQualityProgramTest::reportsForPrograms()
+{
+    const ProgramRun run = runMeshQuality(report + QStringList{QStringLiteral("--json"), QStringLiteral("-"), slivers});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.errors, QByteArray());
+
+    QStringList keys;
+    QRegularExpressionMatchIterator match =
+        QRegularExpression(QStringLiteral("\"(\\w+)\":")).globalMatch(QString::fromUtf8(run.output));
+    while (match.hasNext()) {
+        keys.append(match.next().captured(1));
+    }
+    QCOMPARE(keys.join(QLatin1Char(' ')),
+             QStringLiteral("file nodes tetrahedra inverted flat skippedLines features Volume EdgeRatio AspectRatio "
+                            "AspectGamma Condition Jacobian RadiusRatio RelativeSizeSquared ScaledJacobian Shape "
+                            "ShapeAndSize score"));
+
+    const QJsonObject mesh = onlyObject(run.output);
+    QCOMPARE(mesh.value(QStringLiteral("file")).toString(), slivers);
+    QCOMPARE(mesh.value(QStringLiteral("nodes")).toInt(), 777);
+    QCOMPARE(mesh.value(QStringLiteral("tetrahedra")).toInt(), 3156);
+    QCOMPARE(mesh.value(QStringLiteral("inverted")).toInt(-1), 0);
+    QCOMPARE(mesh.value(QStringLiteral("flat")).toInt(-1), 0);
+    QCOMPARE(mesh.value(QStringLiteral("skippedLines")).toInt(-1), 0);
+    const std::array<float, 11> expected = LiteralPipeline::features(slivers);
+    const QJsonObject features = mesh.value(QStringLiteral("features")).toObject();
+    for (int i = 0; i < 11; ++i) {
+        QCOMPARE(static_cast<float>(features.value(keys.at(7 + i)).toDouble()), expected[static_cast<std::size_t>(i)]);
+    }
+    QCOMPARE(static_cast<float>(mesh.value(QStringLiteral("score")).toDouble()), scoreOf(slivers));
+}
+
+void MeshQualityProgramTest::writesJsonIntoFile()
+{
+    const QString json = path("report.json");
+    const QStringList arguments = report + QStringList{QStringLiteral("--json"), json, slivers, slivers};
+    const ProgramRun run = runMeshQuality(arguments);
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY(run.output.contains("777 nodes"));
+    QFile written(json);
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    QCOMPARE(QJsonDocument::fromJson(written.readAll()).array().size(), 2);
+
+    const QString impossible = path("no/such/directory/report.json");
+    const ProgramRun failed = runMeshQuality(report + QStringList{QStringLiteral("--json"), impossible, slivers});
+    QCOMPARE(failed.exitCode, 2);
+    QCOMPARE(failed.errors, "meshquality: " + impossible.toUtf8() + ": cannot be written\n");
+}
+
+void MeshQualityProgramTest::writesNullForNoNumber()
+{
+    const QString mesh = file("turned.msh", MeshFiles::oneTetrahedron(MeshFiles::inverted(MeshFiles::rightCorner())));
+    const ProgramRun run = runMeshQuality(report + QStringList{QStringLiteral("--json"), QStringLiteral("-"), mesh});
+    QCOMPARE(run.exitCode, 0);
+    const QJsonObject object = onlyObject(run.output);
+    QCOMPARE(object.value(QStringLiteral("inverted")).toInt(), 1);
+    QVERIFY(object.value(QStringLiteral("score")).isNull());
+    const QJsonObject features = object.value(QStringLiteral("features")).toObject();
+    QVERIFY(features.value(QStringLiteral("Shape")).isNull());
+    QCOMPARE(features.value(QStringLiteral("Jacobian")).toDouble(), -1.0);
+}
+
+void MeshQualityProgramTest::refusesUnreadableMeshes_data()
+{
+    QTest::addColumn<QString>("mesh");
+    QTest::addColumn<QByteArray>("what");
+    const QString pipe = path("pipe");
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QTest::newRow("missing") << path("none.msh") << QByteArray("no such file");
+    QTest::newRow("directory") << m_directory.path() << QByteArray("not a regular file");
+    QTest::newRow("pipe") << pipe << QByteArray("not a regular file");
+    const QString newer = file("newer.msh", "$MeshFormat\n4.1 0 8\n$EndMeshFormat\n");
+    QTest::newRow("version") << newer
+                             << QByteArray("MSH 4.1 ASCII, not MSH 2 ASCII; convert it with: "
+                                           "gmsh -save -format msh22 -o converted.msh '" +
+                                           newer.toUtf8() + "'");
+    QTest::newRow("no tetrahedra") << file("flat.msh", MeshFiles::mesh({"1 0 0 0"}, {})) << QByteArray("no tetrahedra");
+}
+
+void MeshQualityProgramTest::refusesUnreadableMeshes()
+{
+    QFETCH(QString, mesh);
+    QFETCH(QByteArray, what);
+    const ProgramRun run = runMeshQuality(report + QStringList{QStringLiteral("--json"), QStringLiteral("-"), mesh});
+    QCOMPARE(run.exitCode, 3);
+    QCOMPARE(run.output, QByteArray("[]\n"));
+    QCOMPARE(run.errors, "meshquality: " + mesh.toUtf8() + ": " + what + '\n');
+}
+
+void MeshQualityProgramTest::goesOnAfterUnreadableMesh()
+{
+    const ProgramRun run = runMeshQuality(report + QStringList{slivers, path("none.msh"), slivers});
+    QCOMPARE(run.exitCode, 3);
+    QCOMPARE(run.output.count("777 nodes"), 2);
+    QCOMPARE(run.errors, "meshquality: " + path("none.msh").toUtf8() + ": no such file\n");
+}
+
+void MeshQualityProgramTest::tellsOfModelTrouble_data()
+{
+    QTest::addColumn<QString>("modelFile");
+    QTest::newRow("missing") << path("none.onnx");
+    QTest::newRow("text") << file("text.onnx", "no model");
+    QTest::newRow("wrong names") << model("other-input-name");
+    QTest::newRow("wrong type") << model("double-input");
+}
+
+void MeshQualityProgramTest::tellsOfModelTrouble()
+{
+    QFETCH(QString, modelFile);
+    const ProgramRun run = runMeshQuality(report + QStringList{QStringLiteral("--model"), modelFile, slivers});
+    QCOMPARE(run.exitCode, 4);
+    QCOMPARE(run.output, QByteArray());
+    const QByteArray start = "meshquality: " + modelFile.toUtf8() + ": ";
+    QVERIFY2(run.errors.contains(start), run.errors.constData());
+    QVERIFY(run.errors.mid(run.errors.indexOf(start)).size() > start.size() + 10);
+}
+
+void MeshQualityProgramTest::takesAnyPath()
+{
+    const QString mesh = file("a b %1 é'.msh", MeshFiles::oneTetrahedron(MeshFiles::regular()));
+    const ProgramRun run = runMeshQuality(report + QStringList{QStringLiteral("--json"), QStringLiteral("-"),
+                                                               QStringLiteral("--model"), model("volume"), mesh});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(onlyObject(run.output).value(QStringLiteral("tetrahedra")).toInt(), 1);
+}
+
+void MeshQualityProgramTest::predictsOnTheApplicationLayout()
+{
+    const QString program = installedProgram();
+    QVERIFY(QFile::copy(model("above-one"), path("application/mesher/mesh.onnx")));
+    QVERIFY(QFile::copy(slivers, path("application/temp/mesh.msh")));
+    const ProgramRun run = runMeshQuality({QStringLiteral("predict")}, program);
+    QCOMPARE(run.errors, QByteArray());
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.output, QByteArray("0 0 0 0 0 0 0 0 0 1\n"));
+    // The default model is the same one.
+    const ProgramRun reported =
+        runMeshQuality(report + QStringList{QStringLiteral("--json"), QStringLiteral("-"), slivers}, program);
+    QCOMPARE(onlyObject(reported.output).value(QStringLiteral("score")).toDouble(), 1.0);
+}
+
+void MeshQualityProgramTest::refusesToPredict()
+{
+    const QString program = installedProgram();
+    QFile::remove(path("application/mesher/mesh.onnx"));
+    QFile::remove(path("application/temp/mesh.msh"));
+    const ProgramRun withoutMesh = runMeshQuality({QStringLiteral("predict")}, program);
+    QCOMPARE(withoutMesh.exitCode, 3);
+    QVERIFY(withoutMesh.errors.endsWith("/../temp/mesh.msh: no such file\n"));
+    QVERIFY(QFile::copy(slivers, path("application/temp/mesh.msh")));
+    const ProgramRun withoutModel = runMeshQuality({QStringLiteral("predict")}, program);
+    QCOMPARE(withoutModel.exitCode, 4);
+    QCOMPARE(withoutModel.output, QByteArray());
+    QVERIFY(withoutModel.errors.contains("/../mesher/mesh.onnx: "));
+}
+
+QTEST_GUILESS_MAIN(MeshQualityProgramTest)
+#include "tst_meshqualityprogram.moc"
