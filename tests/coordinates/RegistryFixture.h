@@ -9,7 +9,9 @@
 #include <basemodule/GlobalHelper.h>
 #include <basemodule/IBaseSignal.h>
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -74,7 +76,10 @@ public:
     }
 
 private:
-    QTemporaryDir m_directory;
+    /// In memory where the system offers that: every write waits for its disk, and there are thousands.
+    QTemporaryDir m_directory{QFileInfo(QStringLiteral("/dev/shm")).isWritable()
+                                  ? QStringLiteral("/dev/shm/coordinates-XXXXXX")
+                                  : QDir::tempPath() + QStringLiteral("/coordinates-XXXXXX")};
 };
 
 inline QString textOf(const QList<int>& ids)
