@@ -7,7 +7,10 @@
 #include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
 
 #include <basemodule/GlobalHelper.h>
-#include <basemodule/IBaseSignal.h>
+
+#include <datamodel/SelectedDataBase.h>
+
+#include <support/SignalLog.h>
 
 #include <QDir>
 #include <QFile>
@@ -91,36 +94,28 @@ inline QString textOf(const QList<int>& ids)
     return QLatin1Char('[') + texts.join(QLatin1Char(',')) + QLatin1Char(']');
 }
 
-/// Writes down every signal of the registry and the hub's signal of the registry, with the IDs that are registered and
-/// the current ID at that moment. Belongs to the registry that exists when it is made.
-class SignalLog : public QObject
+/// Every signal of the registry and of the hub in one log, each with the IDs that are registered and the current ID at
+/// that moment. Belongs to the registry that exists when it is made.
+class RegistryLog : public QObject
 {
 public:
-    SignalLog()
+    RegistryLog()
     {
         using Registry = DataManager::RelativeCoordinateSystemDate;
         connect(Registry::getInstance(), &Registry::signal_dataChanged, this,
-                [this](const QList<int>& ids) { note(QStringLiteral("changed ") + textOf(ids)); });
+                [this](const QList<int>& ids) { m_log.append(QStringLiteral("changed ") + textOf(ids)); });
         connect(Registry::getInstance(), &Registry::signal_dataDeleted, this,
-                [this](const QList<int>& ids) { note(QStringLiteral("deleted ") + textOf(ids)); });
-        connect(BaseModule::IBaseSignal::getInstance(), &BaseModule::IBaseSignal::signal_updateWindowTitle, this,
-                [this] { note(QStringLiteral("title")); });
+                [this](const QList<int>& ids) { m_log.append(QStringLiteral("deleted ") + textOf(ids)); });
     }
 
-    QStringList take()
-    {
-        const QStringList lines = m_lines;
-        m_lines.clear();
-        return lines;
-    }
+    QStringList take() { return m_log.take(); }
 
 private:
-    void note(const QString& signal)
+    static QString state()
     {
         const int current = RegistryFixture::registry()->getCurrentCoordinateSystemID();
-        m_lines.append(signal + QStringLiteral(" with ") + textOf(RegistryFixture::ids()) + QStringLiteral(" at ") +
-                       QString::number(current));
+        return textOf(RegistryFixture::ids()) + QStringLiteral(" at ") + QString::number(current);
     }
 
-    QStringList m_lines;
+    SignalLog m_log{state};
 };

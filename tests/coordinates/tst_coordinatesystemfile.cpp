@@ -100,7 +100,7 @@ private Q_SLOTS:
         if (count == 1) {
             addGlobal();
         }
-        SignalLog log;
+        RegistryLog log;
         registry()->writeConfig();
         const QJsonObject object = parsed(m_fixture->fileContent());
         QCOMPARE(object.size(), 7);
@@ -163,9 +163,9 @@ private Q_SLOTS:
     {
         addGlobal();
         BaseModule::GlobalHelper::setProjectTempIODir(QFileInfo(m_fixture->path()).path() + QStringLiteral("/missing"));
-        SignalLog log;
+        RegistryLog log;
         registry()->writeConfig();
-        QCOMPARE(log.take(), QStringList{QStringLiteral("title with [0] at 0")});
+        QCOMPARE(log.take(), QStringList{QStringLiteral("updateWindowTitle | [0] at 0")});
         QVERIFY(!m_fixture->hasFile());
         QByteArray out("kept");
         registry()->dataToByteArray(&out);
@@ -191,7 +191,7 @@ private Q_SLOTS:
         const auto record = registry()->m_dataManager;
         m_fixture->add(3);
         m_fixture->add(5);
-        SignalLog log;
+        RegistryLog log;
         registry()->readConfig();
         QCOMPARE(log.take(), QStringList());
         QCOMPARE(m_fixture->ids(), (QList<int>{0, 3, 5}));
@@ -227,14 +227,14 @@ private Q_SLOTS:
     {
         addGlobal();
         QVERIFY(m_fixture->setFileContent(goodFile()));
-        SignalLog log;
+        RegistryLog log;
         QList<QJsonArray> written;
         connect(BaseModule::IBaseSignal::getInstance(), &BaseModule::IBaseSignal::signal_updateWindowTitle, &log,
                 [&] { written.append(parsed(m_fixture->fileContent()).value(QLatin1String("m_IDList")).toArray()); });
         registry()->readConfig();
-        QCOMPARE(log.take(),
-                 (QStringList{QStringLiteral("title with [0,3] at 0"), QStringLiteral("title with [0,3,5] at 0"),
-                              QStringLiteral("title with [0,3,5,9] at 0")}));
+        QCOMPARE(log.take(), (QStringList{QStringLiteral("updateWindowTitle | [0,3] at 0"),
+                                          QStringLiteral("updateWindowTitle | [0,3,5] at 0"),
+                                          QStringLiteral("updateWindowTitle | [0,3,5,9] at 0")}));
         QCOMPARE(written, (QList<QJsonArray>{{3}, {3, 5}, {3, 5, 9}}));
     }
 
@@ -281,7 +281,7 @@ private Q_SLOTS:
         for (const int id : {0, 1, 2, 3, 4}) {
             systems.append(m_fixture->add(id));
         }
-        SignalLog log;
+        RegistryLog log;
         registry()->readConfig();
         QCOMPARE(m_fixture->ids(), (QList<int>{0, 2, 4}));
         QCOMPARE(log.take(), QStringList());
@@ -411,7 +411,7 @@ private Q_SLOTS:
         QCOMPARE(out, QByteArray("before "));
         QVERIFY(!m_fixture->hasFile());
         addGlobal();
-        SignalLog log;
+        RegistryLog log;
         registry()->dataToByteArray(nullptr);
         QVERIFY(!m_fixture->hasFile());
         registry()->dataToByteArray(&out);
@@ -424,7 +424,7 @@ private Q_SLOTS:
     {
         QVERIFY(m_fixture->setFileContent("not written by us"));
         addGlobal();
-        SignalLog log;
+        RegistryLog log;
         QByteArray out;
         registry()->dataToByteArray(&out);
         QCOMPARE(out, QByteArray("not written by us"));

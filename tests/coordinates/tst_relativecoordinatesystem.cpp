@@ -281,7 +281,7 @@ private Q_SLOTS:
     void setsNoCacheAndEmitsNothing()
     {
         QFETCH(ChainAccess, chain);
-        SignalLog log;
+        RegistryLog log;
         RelativeCoordinateSystem system;
         system.m_type = CoordinateSystemType(6);
         system.m_rotateDirection = {{1, 2, 3}};

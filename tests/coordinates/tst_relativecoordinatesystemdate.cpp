@@ -120,25 +120,26 @@ private Q_SLOTS:
 
     void appendsAtTheEndAndWritesTheFile()
     {
-        SignalLog log;
+        RegistryLog log;
         auto* const system = new RelativeCoordinateSystem;
         system->setID(3);
         m_fixture->add(0);
         registry()->appendCoordinateSystem(system);
-        QCOMPARE(log.take(), lines({"title with [0,3] at 0"}));
+        QCOMPARE(log.take(), lines({"updateWindowTitle | [0,3] at 0"}));
         QCOMPARE(registry()->getCoordinateSystemByIndex(1), system);
         QVERIFY(m_fixture->hasFile());
     }
 
     void appendsNeitherNullNorTheSameTwice()
     {
-        SignalLog log;
+        RegistryLog log;
         auto* const system = new RelativeCoordinateSystem;
         registry()->appendCoordinateSystem(system);
         registry()->appendCoordinateSystem(nullptr);
         registry()->appendCoordinateSystem(system);
         QCOMPARE(m_fixture->ids(), QList<int>{0});
-        QCOMPARE(log.take(), lines({"title with [0] at 0", "title with [0] at 0", "title with [0] at 0"}));
+        QCOMPARE(log.take(), lines({"updateWindowTitle | [0] at 0", "updateWindowTitle | [0] at 0",
+                                    "updateWindowTitle | [0] at 0"}));
     }
 
     void findsSystems()
@@ -169,9 +170,9 @@ private Q_SLOTS:
     void removesByIDWithoutDestroying()
     {
         const Systems systems = addAll({0, 3, 5});
-        SignalLog log;
+        RegistryLog log;
         registry()->removeCoordinateSystemByID({5, 0, 3});
-        QCOMPARE(log.take(), lines({"deleted [5,3] with [0,3,5] at 0", "title with [0] at 0"}));
+        QCOMPARE(log.take(), lines({"deleted [5,3] | [0,3,5] at 0", "updateWindowTitle | [0] at 0"}));
         QCOMPARE(aliveCount(systems), 3);
         QVERIFY(m_fixture->hasFile());
         delete systems.at(1).data();
@@ -181,9 +182,9 @@ private Q_SLOTS:
     void removesEverySystemWithAnIDByID()
     {
         const Systems systems = addAll({3, 0, 5, 3, 0, 7});
-        SignalLog log;
+        RegistryLog log;
         registry()->removeCoordinateSystemByID({3, 9, 3});
-        QCOMPARE(log.take(), lines({"deleted [3,9,3] with [3,0,5,3,0,7] at 0", "title with [0,5,0,7] at 0"}));
+        QCOMPARE(log.take(), lines({"deleted [3,9,3] | [3,0,5,3,0,7] at 0", "updateWindowTitle | [0,5,0,7] at 0"}));
         delete systems.at(0).data();
         delete systems.at(3).data();
     }
@@ -198,7 +199,7 @@ private Q_SLOTS:
     {
         QFETCH(QList<int>, ids);
         addAll({0, 3});
-        SignalLog log;
+        RegistryLog log;
         registry()->removeCoordinateSystemByID(ids);
         QCOMPARE(log.take(), QStringList());
         QCOMPARE(m_fixture->ids(), (QList<int>{0, 3}));
@@ -208,9 +209,9 @@ private Q_SLOTS:
     void writesTheFileForAnUnknownID()
     {
         addAll({0, 3});
-        SignalLog log;
+        RegistryLog log;
         registry()->removeCoordinateSystemByID({9});
-        QCOMPARE(log.take(), lines({"deleted [9] with [0,3] at 0", "title with [0,3] at 0"}));
+        QCOMPARE(log.take(), lines({"deleted [9] | [0,3] at 0", "updateWindowTitle | [0,3] at 0"}));
     }
 
     void destroysByIndex_data()
@@ -218,9 +219,9 @@ private Q_SLOTS:
         QTest::addColumn<int>("index");
         QTest::addColumn<QString>("line");
         QTest::addColumn<QList<int>>("left");
-        QTest::newRow("first") << 0 << QStringLiteral("deleted [0] with [0,3,5] at 0") << QList<int>{3, 5};
-        QTest::newRow("middle") << 1 << QStringLiteral("deleted [3] with [0,3,5] at 0") << QList<int>{0, 5};
-        QTest::newRow("last") << 2 << QStringLiteral("deleted [5] with [0,3,5] at 0") << QList<int>{0, 3};
+        QTest::newRow("first") << 0 << QStringLiteral("deleted [0] | [0,3,5] at 0") << QList<int>{3, 5};
+        QTest::newRow("middle") << 1 << QStringLiteral("deleted [3] | [0,3,5] at 0") << QList<int>{0, 5};
+        QTest::newRow("last") << 2 << QStringLiteral("deleted [5] | [0,3,5] at 0") << QList<int>{0, 3};
     }
     void destroysByIndex()
     {
@@ -228,7 +229,7 @@ private Q_SLOTS:
         QFETCH(QString, line);
         QFETCH(QList<int>, left);
         const Systems systems = addAll({0, 3, 5});
-        SignalLog log;
+        RegistryLog log;
         registry()->removeCoordinateSystemByIndex(index);
         QCOMPARE(log.take(), QStringList{line});
         QCOMPARE(m_fixture->ids(), left);
@@ -247,7 +248,7 @@ private Q_SLOTS:
     {
         QFETCH(int, index);
         addAll({0, 3});
-        SignalLog log;
+        RegistryLog log;
         registry()->removeCoordinateSystemByIndex(index);
         QCOMPARE(log.take(), QStringList());
         QCOMPARE(m_fixture->ids(), (QList<int>{0, 3}));
@@ -257,12 +258,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QList<int>>("ids");
         QTest::addColumn<QString>("line");
-        QTest::newRow("usual") << QList<int>{0, 3, 5} << QStringLiteral("deleted [3,5] with [0,3,5] at 6");
-        QTest::newRow("only the global one") << QList<int>{0} << QStringLiteral("deleted [] with [0] at 6");
-        QTest::newRow("empty") << QList<int>() << QStringLiteral("deleted [] with [] at 6");
+        QTest::newRow("usual") << QList<int>{0, 3, 5} << QStringLiteral("deleted [3,5] | [0,3,5] at 6");
+        QTest::newRow("only the global one") << QList<int>{0} << QStringLiteral("deleted [] | [0] at 6");
+        QTest::newRow("empty") << QList<int>() << QStringLiteral("deleted [] | [] at 6");
         QTest::newRow("another one first")
-            << QList<int>{4, 3, 0, 5, 0} << QStringLiteral("deleted [4,3,5,0] with [4,3,0,5,0] at 6");
-        QTest::newRow("no global one") << QList<int>{4, 4} << QStringLiteral("deleted [4,4] with [4,4] at 6");
+            << QList<int>{4, 3, 0, 5, 0} << QStringLiteral("deleted [4,3,5,0] | [4,3,0,5,0] at 6");
+        QTest::newRow("no global one") << QList<int>{4, 4} << QStringLiteral("deleted [4,4] | [4,4] at 6");
     }
     void clearsAllButTheFirst()
     {
@@ -271,7 +272,7 @@ private Q_SLOTS:
         const Systems systems = addAll(ids);
         registry()->setCurrentCoordinateSystemID(6);
         registry()->setNeWCoordinateSystemSign(true);
-        SignalLog log;
+        RegistryLog log;
         registry()->clear();
         QCOMPARE(log.take(), QStringList{line});
         QCOMPARE(m_fixture->ids(), ids.mid(0, 1));
@@ -285,9 +286,9 @@ private Q_SLOTS:
     {
         addAll({0, 3});
         registry()->setCurrentCoordinateSystemID(3);
-        SignalLog log;
+        RegistryLog log;
         registry()->resetData();
-        QCOMPARE(log.take(), lines({"deleted [3] with [0,3] at 3", "changed [0] with [0] at 0"}));
+        QCOMPARE(log.take(), lines({"deleted [3] | [0,3] at 3", "changed [0] | [0] at 0"}));
         QCOMPARE(RelativeCoordinateSystem::getMaxID(), 0);
         QVERIFY(!registry()->m_dataManager.isNull());
         QVERIFY(registry()->m_dataManager->getIDList().isEmpty());
@@ -315,7 +316,7 @@ private Q_SLOTS:
         std::sort(expected.begin(), expected.end(), std::less<>());
         // Whatever the addresses are, at least one of these two orders is not sorted yet.
         std::reverse(registry()->m_coordinateSystemList.begin(), registry()->m_coordinateSystemList.end());
-        SignalLog log;
+        RegistryLog log;
         registry()->sort();
         QCOMPARE(registry()->m_coordinateSystemList, expected);
         std::swap(registry()->m_coordinateSystemList[0], registry()->m_coordinateSystemList[3]);
@@ -328,16 +329,16 @@ private Q_SLOTS:
     void makesAnyIDCurrent()
     {
         addAll({0, 3, 5});
-        SignalLog log;
+        RegistryLog log;
         registry()->setCurrentCoordinateSystemID(42);
         registry()->setCurrentCoordinateSystemID(42);
         QCOMPARE(registry()->getCurrentCoordinateSystemID(), 42);
-        QCOMPARE(log.take(), lines({"changed [0,3,5] with [0,3,5] at 42", "changed [0,3,5] with [0,3,5] at 42"}));
+        QCOMPARE(log.take(), lines({"changed [0,3,5] | [0,3,5] at 42", "changed [0,3,5] | [0,3,5] at 42"}));
     }
 
     void keepsTheSigns()
     {
-        SignalLog log;
+        RegistryLog log;
         registry()->setNeWCoordinateSystemSign(true);
         QCOMPARE(registry()->getSwitchCoordinateSystemSign(), false);
         registry()->setSwitchCoordinateSystemSign(true);
