@@ -29,7 +29,7 @@ QByteArray withTokens(const QByteArray& coordinate, const QByteArray& number)
 
 QByteArray mutated(QByteArray content, unsigned seed)
 {
-    const QByteArray alphabet = QByteArray("0123456789 $\n\r\t.-+eEnaif,x", 27) + '\0' + '\xff';
+    const QByteArray alphabet = QByteArray("0123456789 $\n\r\t.-+eEnaif,x") + '\0' + '\xff';
     std::mt19937 random(seed);
     for (int change = 0; change < 40; ++change) {
         const int place = static_cast<int>(random() % static_cast<unsigned>(content.size()));

@@ -164,7 +164,7 @@ void MeshQualityReportTest::tellsWhatIsWrong_data()
         advice("MSH 4.1 ASCII", "version 4.1"));
     row("version 2.x", "$MeshFormat\n2.x 0 8\n$EndMeshFormat\n", Problem::WrongFormat,
         advice("MSH 2.x ASCII", "version 2.x"));
-    row("binary", QByteArray("$MeshFormat\n2.2 1 8\n\1\0\0\0\n$EndMeshFormat\n", 42), Problem::WrongFormat,
+    row("binary", QByteArray("$MeshFormat\n2.2 1 8\n\1\0\0\0\n$EndMeshFormat\n", 40), Problem::WrongFormat,
         advice("MSH 2.2 binary", "binary"));
     row("no header", "$Nodes\n1\n1 0 0 0\n$EndNodes\n", Problem::WrongFormat,
         advice("a file without $MeshFormat", "no header"));
