@@ -40,6 +40,10 @@ public:
 
     /// The metric's name as in the enumeration.
     static QString metricName(Metric metric);
+    /// The metric of this name, in any case of letters; false when there is none.
+    static bool metricOfName(const QString& name, Metric& metric);
+    /// Whether a larger value of the metric is a worse one.
+    static bool isWorseWhenLarger(Metric metric);
 
     /// Why there are no measures.
     enum class Problem : int
@@ -73,6 +77,44 @@ public:
         /// From 1.
         qint64 line;
         SkipReason reason;
+    };
+
+    /// How the finite values of a metric are spread. Percentiles lie between the two nearest values in proportion; the
+    /// standard deviation is that of the whole, with the count as divisor. All but `nonFinite` are NaN without values.
+    struct Summary
+    {
+        double minimum;
+        double percentile1;
+        double percentile5;
+        double median;
+        double percentile95;
+        double percentile99;
+        double maximum;
+        double mean;
+        double standardDeviation;
+        /// Elements whose value is infinite or no number; they count nowhere else.
+        int nonFinite;
+    };
+
+    /// Finite values by size, in bins of equal width from `lower` to `upper`; the last bin holds `upper`.
+    struct Histogram
+    {
+        double lower;
+        double upper;
+        std::vector<int> counts;
+    };
+
+    /// The elements of one physical group.
+    struct Region
+    {
+        int physicalTag;
+        /// Empty when the file does not name the group.
+        QString name;
+        int elementCount;
+        int invertedCount;
+        int flatCount;
+        /// By metric.
+        std::array<Summary, metricCount> summaries;
     };
 
     /// Told how many of how many bytes are read, now and then; false cancels.
@@ -109,6 +151,16 @@ public:
     qint64 line(int element) const { return m_lines[static_cast<std::size_t>(element)]; }
     /// Centre of the element's corners.
     std::array<double, 3> centroid(int element) const { return m_centroids[static_cast<std::size_t>(element)]; }
+    Summary summary(Metric metric) const;
+    /// `bins` is at least 1. Empty counts where there is no finite value.
+    Histogram histogram(Metric metric, int bins) const;
+    /// The `count` worst elements by a metric, the worst first, of equals the first in the file. Worse than every
+    /// number is no number, then an infinite value; of inverted elements, whose sign may be turned round, all are worse
+    /// than those that are not.
+    std::vector<int> worst(Metric metric, int count) const;
+    /// The physical groups that hold tetrahedra, by tag.
+    std::vector<Region> regions() const;
+
     /// Names of the volume groups that the file names, by physical tag.
     const QMap<int, QString>& groupNames() const { return m_groupNames; }
 
