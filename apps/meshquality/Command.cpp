@@ -13,10 +13,15 @@ namespace {
 
 const char* const helpText = R"(Quality of tetrahedral meshes in MSH 2 ASCII.
 
-  meshquality report [--json FILE|-] [--model FILE] MESH...
-      Counts, the means of eleven metrics, and the model's score of each mesh.
-      --json FILE   also as JSON into a file, or with - onto standard output instead of the table
-      --model FILE  another model than ../mesher/mesh.onnx beside the program
+  meshquality report [OPTION...] MESH...
+      Counts, means and spread of eleven metrics, and the model's score of each mesh.
+      --json FILE         also as JSON into a file, or with - onto standard output instead of the table
+      --csv FILE          all values, one line an element
+      --worst N           the worst N elements
+      --by METRIC         by which metric they are the worst (Shape)
+      --histogram METRIC  how the values of a metric are spread
+      --by-region         the same for each physical group
+      --model FILE        another model than ../mesher/mesh.onnx beside the program
   meshquality predict
       Scores ../temp/mesh.msh beside the program, as an application does, and
       prints the history of the last ten scores, oldest first.

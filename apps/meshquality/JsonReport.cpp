@@ -4,6 +4,7 @@
 #include <meshquality/JsonReport.h>
 
 #include <meshquality/JsonWriter.h>
+#include <meshquality/ReportOptions.h>
 #include <meshquality/ScoredMesh.h>
 
 namespace MeshQuality {
@@ -35,9 +36,116 @@ void writeFeatures(const MeshQualityReport& report, JsonWriter& json)
     json.endObject();
 }
 
+using Summaries = std::array<MeshQualityReport::Summary, MeshQualityReport::metricCount>;
+
+QString metricName(std::size_t metric)
+{
+    return MeshQualityReport::metricName(static_cast<MeshQualityReport::Metric>(metric));
+}
+
+void writeSummary(const MeshQualityReport::Summary& summary, JsonWriter& json)
+{
+    const std::pair<const char*, double> figures[] = {{"minimum", summary.minimum},
+                                                      {"percentile1", summary.percentile1},
+                                                      {"percentile5", summary.percentile5},
+                                                      {"median", summary.median},
+                                                      {"percentile95", summary.percentile95},
+                                                      {"percentile99", summary.percentile99},
+                                                      {"maximum", summary.maximum},
+                                                      {"mean", summary.mean},
+                                                      {"standardDeviation", summary.standardDeviation}};
+    json.beginObject();
+    for (const auto& [name, figure] : figures) {
+        json.key(QString::fromLatin1(name));
+        json.value(figure);
+    }
+    json.key(QStringLiteral("nonFinite"));
+    json.value(qint64(summary.nonFinite));
+    json.endObject();
+}
+
+void writeMetrics(const Summaries& summaries, JsonWriter& json)
+{
+    json.key(QStringLiteral("metrics"));
+    json.beginObject();
+    for (std::size_t metric = 0; metric < summaries.size(); ++metric) {
+        json.key(metricName(metric));
+        writeSummary(summaries[metric], json);
+    }
+    json.endObject();
+}
+
+Summaries summaries(const MeshQualityReport& report)
+{
+    Summaries result{};
+    for (std::size_t metric = 0; metric < result.size(); ++metric) {
+        result[metric] = report.summary(static_cast<MeshQualityReport::Metric>(metric));
+    }
+    return result;
+}
+
+void writeRegions(const MeshQualityReport& report, JsonWriter& json)
+{
+    json.key(QStringLiteral("regions"));
+    json.beginArray();
+    for (const MeshQualityReport::Region& region : report.regions()) {
+        json.beginObject();
+        json.key(QStringLiteral("tag"));
+        json.value(qint64(region.physicalTag));
+        json.key(QStringLiteral("name"));
+        json.value(region.name);
+        json.key(QStringLiteral("tetrahedra"));
+        json.value(qint64(region.elementCount));
+        json.key(QStringLiteral("inverted"));
+        json.value(qint64(region.invertedCount));
+        json.key(QStringLiteral("flat"));
+        json.value(qint64(region.flatCount));
+        writeMetrics(region.summaries, json);
+        json.endObject();
+    }
+    json.endArray();
+}
+
+void writeElement(const MeshQualityReport& report, int element, JsonWriter& json)
+{
+    json.beginObject();
+    json.key(QStringLiteral("element"));
+    json.value(qint64(report.tag(element)));
+    json.key(QStringLiteral("line"));
+    json.value(report.line(element));
+    json.key(QStringLiteral("region"));
+    json.value(qint64(report.physicalTag(element)));
+    json.key(QStringLiteral("centroid"));
+    json.beginArray();
+    for (const double coordinate : report.centroid(element)) {
+        json.value(coordinate);
+    }
+    json.endArray();
+    json.key(QStringLiteral("metrics"));
+    json.beginObject();
+    for (std::size_t metric = 0; metric < MeshQualityReport::metricCount; ++metric) {
+        json.key(metricName(metric));
+        json.value(report.values(static_cast<MeshQualityReport::Metric>(metric))[static_cast<std::size_t>(element)]);
+    }
+    json.endObject();
+    json.endObject();
+}
+
+void writeWorst(const MeshQualityReport& report, const ReportOptions& options, JsonWriter& json)
+{
+    constexpr int unlessToldOtherwise = 10;
+    json.key(QStringLiteral("worst"));
+    json.beginArray();
+    for (const int element :
+         report.worst(options.worstBy, options.worstCount > 0 ? options.worstCount : unlessToldOtherwise)) {
+        writeElement(report, element, json);
+    }
+    json.endArray();
+}
+
 } // namespace
 
-void writeJson(const ScoredMesh& mesh, JsonWriter& json)
+void writeJson(const ScoredMesh& mesh, const ReportOptions& options, JsonWriter& json)
 {
     json.beginObject();
     json.key(QStringLiteral("file"));
@@ -47,6 +155,9 @@ void writeJson(const ScoredMesh& mesh, JsonWriter& json)
     writeFeatures(mesh.report, json);
     json.key(QStringLiteral("score"));
     json.value(mesh.score);
+    writeMetrics(summaries(mesh.report), json);
+    writeRegions(mesh.report, json);
+    writeWorst(mesh.report, options, json);
     json.endObject();
 }
 

@@ -6,9 +6,10 @@
 namespace MeshQuality {
 
 class JsonWriter;
+struct ReportOptions;
 struct ScoredMesh;
 
-/// Writes what is known of a mesh as one object.
-void writeJson(const ScoredMesh& mesh, JsonWriter& json);
+/// Writes what is known of a mesh as one object. Of the worst elements, ten by Shape unless the options say otherwise.
+void writeJson(const ScoredMesh& mesh, const ReportOptions& options, JsonWriter& json);
 
 } // namespace MeshQuality

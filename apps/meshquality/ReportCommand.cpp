@@ -4,56 +4,26 @@
 #include <meshquality/ReportCommand.h>
 
 #include <meshquality/Console.h>
+#include <meshquality/CsvReport.h>
 #include <meshquality/JsonReport.h>
 #include <meshquality/JsonWriter.h>
 #include <meshquality/ModelScore.h>
+#include <meshquality/ReportOptions.h>
 #include <meshquality/ScoredMesh.h>
+#include <meshquality/TextDetails.h>
 #include <meshquality/TextReport.h>
 
 #include <basemodule/GlobalHelper.h>
-
-#include <QCommandLineParser>
 
 namespace MeshQuality {
 
 namespace {
 
-struct ReportOptions
-{
-    QString model = ModelScore::defaultModel();
-    /// Empty: no JSON. "-": standard output, in place of the table.
-    QString jsonFile;
-    QStringList meshes;
-};
-
-bool parse(const QStringList& arguments, ReportOptions& options)
-{
-    QCommandLineParser parser;
-    parser.addOption({QStringLiteral("json"), QString(), QStringLiteral("FILE")});
-    parser.addOption({QStringLiteral("model"), QString(), QStringLiteral("FILE")});
-    if (!parser.parse(arguments)) {
-        Console::printUsageError(parser.errorText());
-        return false;
-    }
-    options.meshes = parser.positionalArguments();
-    options.jsonFile = parser.value(QStringLiteral("json"));
-    if (parser.isSet(QStringLiteral("model"))) {
-        options.model = parser.value(QStringLiteral("model"));
-    }
-    const bool lacksName = parser.isSet(QStringLiteral("json")) && options.jsonFile.isEmpty();
-    if (options.meshes.isEmpty() || lacksName) {
-        Console::printUsageError(lacksName ? QStringLiteral("--json needs a file")
-                                           : QStringLiteral("no mesh is given"));
-        return false;
-    }
-    return true;
-}
-
 /// One run over all meshes.
 class Reporter
 {
 public:
-    explicit Reporter(const ReportOptions& options) : m_options(options) {}
+    explicit Reporter(const ReportOptions& options) : m_options(options), m_csv(options.csvFile) {}
 
     ExitCode run()
     {
@@ -65,7 +35,7 @@ public:
             m_exitCode = qMax(m_exitCode, reportOn(file));
         }
         m_json.endArray();
-        return qMax(m_exitCode, writeJsonFile());
+        return qMax(m_exitCode, writeFiles());
     }
 
 private:
@@ -80,10 +50,13 @@ private:
         if (!m_model.score(mesh.report.features(), mesh.score)) {
             return modelTrouble();
         }
-        writeJson(mesh, m_json);
-        if (m_options.jsonFile != QLatin1String("-")) {
-            Console::print(textReport(mesh));
+        if (!m_options.jsonFile.isEmpty()) {
+            writeJson(mesh, m_options, m_json);
         }
+        if (m_options.jsonFile != QLatin1String("-")) {
+            Console::print(textReport(mesh) + textDetails(mesh.report, m_options));
+        }
+        m_csv.write(mesh);
         return Success;
     }
 
@@ -93,7 +66,16 @@ private:
         return ModelTrouble;
     }
 
-    ExitCode writeJsonFile()
+    ExitCode writeFiles()
+    {
+        const bool isCsvWritten = m_csv.commit();
+        if (!isCsvWritten) {
+            Console::printError(m_options.csvFile, QStringLiteral("cannot be written"));
+        }
+        return writeJsonFile() && isCsvWritten ? Success : UsageError;
+    }
+
+    bool writeJsonFile()
     {
         if (m_options.jsonFile == QLatin1String("-")) {
             Console::print(QString::fromUtf8(m_json.text()));
@@ -101,14 +83,15 @@ private:
                    !BaseModule::GlobalHelper::writeFile(m_options.jsonFile, m_json.text(),
                                                         QIODevice::WriteOnly | QIODevice::Truncate)) {
             Console::printError(m_options.jsonFile, QStringLiteral("cannot be written"));
-            return UsageError;
+            return false;
         }
-        return Success;
+        return true;
     }
 
     const ReportOptions& m_options;
     ModelScore m_model;
     JsonWriter m_json;
+    CsvReport m_csv;
     ExitCode m_exitCode = Success;
 };
 
@@ -117,7 +100,7 @@ private:
 ExitCode runReport(const QStringList& arguments)
 {
     ReportOptions options;
-    return parse(arguments, options) ? Reporter(options).run() : UsageError;
+    return readReportOptions(arguments, options) ? Reporter(options).run() : UsageError;
 }
 
 } // namespace MeshQuality

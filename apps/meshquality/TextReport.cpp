@@ -63,13 +63,28 @@ QString skippedLines(const MeshQualityReport& report)
     return text;
 }
 
+QString row(const QString& name, const QStringList& columns)
+{
+    QString text = QStringLiteral("  ") + name.leftJustified(20);
+    for (const QString& column : columns) {
+        text += column.rightJustified(13);
+    }
+    return text + QLatin1Char('\n');
+}
+
+/// The means as the model takes them, and how the finite values are spread, which a mean hides.
 QString features(const MeshQualityReport& report)
 {
-    QString text = QStringLiteral("  %1%2\n").arg(QStringLiteral("metric"), -22).arg(QStringLiteral("mean"), 13);
+    QString text = row(QStringLiteral("metric"),
+                       {QStringLiteral("mean"), QStringLiteral("minimum"), QStringLiteral("1 %"), QStringLiteral("5 %"),
+                        QStringLiteral("median"), QStringLiteral("95 %"), QStringLiteral("maximum")});
     for (int i = 0; i < MeshQualityReport::metricCount; ++i) {
-        const QString name = MeshQualityReport::metricName(static_cast<Metric>(i));
+        const Metric metric = static_cast<Metric>(i);
         const double mean = static_cast<double>(report.features()[static_cast<std::size_t>(i)]);
-        text += QStringLiteral("  %1%2\n").arg(name, -22).arg(number(mean), 13);
+        const MeshQualityReport::Summary s = report.summary(metric);
+        text += row(MeshQualityReport::metricName(metric),
+                    {number(mean), number(s.minimum), number(s.percentile1), number(s.percentile5), number(s.median),
+                     number(s.percentile95), number(s.maximum)});
     }
     return text;
 }

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <meshquality/ReportOptions.h>
+
+#include <meshquality/Console.h>
+#include <meshquality/ModelScore.h>
+
+#include <QCommandLineParser>
+
+namespace MeshQuality {
+
+using Metric = DataManager::MeshQualityReport::Metric;
+
+namespace {
+
+const QString json = QStringLiteral("json");
+const QString model = QStringLiteral("model");
+const QString csv = QStringLiteral("csv");
+const QString worst = QStringLiteral("worst");
+const QString by = QStringLiteral("by");
+const QString histogram = QStringLiteral("histogram");
+const QString byRegion = QStringLiteral("by-region");
+
+void addOptions(QCommandLineParser& parser)
+{
+    for (const QString& name : {json, model, csv, worst, by, histogram}) {
+        parser.addOption({name, QString(), QStringLiteral("VALUE")});
+    }
+    parser.addOption(QCommandLineOption(byRegion));
+}
+
+/// What is wrong, or nothing.
+QString readMetric(const QString& name, Metric& metric)
+{
+    return DataManager::MeshQualityReport::metricOfName(name, metric)
+               ? QString()
+               : QStringLiteral("there is no metric '%1'").arg(name);
+}
+
+QString readNumbers(const QCommandLineParser& parser, ReportOptions& options)
+{
+    if (parser.isSet(worst)) {
+        bool isNumber = false;
+        options.worstCount = parser.value(worst).toInt(&isNumber);
+        if (!isNumber || options.worstCount < 1) {
+            return QStringLiteral("--worst needs a number from 1");
+        }
+    }
+    if (parser.isSet(by) && !parser.isSet(worst)) {
+        return QStringLiteral("--by goes with --worst");
+    }
+    QString problem = parser.isSet(by) ? readMetric(parser.value(by), options.worstBy) : QString();
+    if (parser.isSet(histogram) && problem.isEmpty()) {
+        Metric metric{};
+        problem = readMetric(parser.value(histogram), metric);
+        options.histogram = metric;
+    }
+    return problem;
+}
+
+QString readFiles(const QCommandLineParser& parser, ReportOptions& options)
+{
+    options.meshes = parser.positionalArguments();
+    options.model = parser.isSet(model) ? parser.value(model) : ModelScore::defaultModel();
+    options.jsonFile = parser.value(json);
+    options.csvFile = parser.value(csv);
+    for (const QString& name : {json, csv, model}) {
+        if (parser.isSet(name) && parser.value(name).isEmpty()) {
+            return QStringLiteral("--%1 needs a file").arg(name);
+        }
+    }
+    return options.meshes.isEmpty() ? QStringLiteral("no mesh is given") : QString();
+}
+
+} // namespace
+
+bool readReportOptions(const QStringList& arguments, ReportOptions& options)
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    QString problem = parser.parse(arguments) ? QString() : parser.errorText();
+    if (problem.isEmpty()) {
+        problem = readFiles(parser, options);
+    }
+    if (problem.isEmpty()) {
+        problem = readNumbers(parser, options);
+    }
+    options.byRegion = parser.isSet(byRegion);
+    if (!problem.isEmpty()) {
+        Console::printUsageError(problem);
+    }
+    return problem.isEmpty();
+}
+
+} // namespace MeshQuality

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#pragma once
+
+#include <datamanager/meshquality/MeshQualityReport.h>
+
+#include <QStringList>
+
+#include <optional>
+
+namespace MeshQuality {
+
+/// What `meshquality report` was asked for.
+struct ReportOptions
+{
+    QString model;
+    /// Empty: no JSON. "-": standard output, in place of the table.
+    QString jsonFile;
+    /// Empty: none.
+    QString csvFile;
+    /// How many of the worst elements are listed, and by which metric.
+    int worstCount = 0;
+    DataManager::MeshQualityReport::Metric worstBy = DataManager::MeshQualityReport::Metric::Shape;
+    std::optional<DataManager::MeshQualityReport::Metric> histogram;
+    bool byRegion = false;
+    QStringList meshes;
+};
+
+/// Reads the arguments of `meshquality report`, which begin with the command's name. False, after a message on standard
+/// error, when they are wrong.
+bool readReportOptions(const QStringList& arguments, ReportOptions& options);
+
+} // namespace MeshQuality

@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <meshquality/TextDetails.h>
+
+#include <meshquality/NumberText.h>
+#include <meshquality/ReportOptions.h>
+
+namespace MeshQuality {
+
+using DataManager::MeshQualityReport;
+using Metric = MeshQualityReport::Metric;
+
+namespace {
+
+QString column(double value)
+{
+    return QString::fromLatin1(sixDigits(value)).rightJustified(13);
+}
+
+QString regionName(const QString& name, int tag)
+{
+    return name.isEmpty() ? QString::number(tag) : QStringLiteral("%1 \"%2\"").arg(tag).arg(name);
+}
+
+QString elementText(const MeshQualityReport& report, int element)
+{
+    const std::array<double, 3> centre = report.centroid(element);
+    const int region = report.physicalTag(element);
+    QString text =
+        QStringLiteral("    element %1 (line %2), region %3, at %4 %5 %6\n")
+            .arg(QString::number(report.tag(element)), QString::number(report.line(element)),
+                 regionName(report.groupNames().value(region), region), QString::fromLatin1(sixDigits(centre[0])),
+                 QString::fromLatin1(sixDigits(centre[1])), QString::fromLatin1(sixDigits(centre[2])));
+    QStringList values;
+    for (int i = 0; i < MeshQualityReport::metricCount; ++i) {
+        const Metric metric = static_cast<Metric>(i);
+        values.append(MeshQualityReport::metricName(metric) + QLatin1Char(' ') +
+                      QString::fromLatin1(sixDigits(report.values(metric)[static_cast<std::size_t>(element)])));
+    }
+    return text + QStringLiteral("      ") + values.join(QStringLiteral(", ")) + QLatin1Char('\n');
+}
+
+QString worst(const MeshQualityReport& report, const ReportOptions& options)
+{
+    QString text = QStringLiteral("  worst by %1:\n").arg(MeshQualityReport::metricName(options.worstBy));
+    for (const int element : report.worst(options.worstBy, options.worstCount)) {
+        text += elementText(report, element);
+    }
+    return text;
+}
+
+QString histogram(const MeshQualityReport& report, Metric metric)
+{
+    constexpr int bins = 20;
+    constexpr int widestBar = 50;
+    const MeshQualityReport::Histogram histogram = report.histogram(metric, bins);
+    QString text = QStringLiteral("  %1:\n").arg(MeshQualityReport::metricName(metric));
+    int most = 1;
+    for (const int count : histogram.counts) {
+        most = qMax(most, count);
+    }
+    const double width = (histogram.upper - histogram.lower) / bins;
+    for (std::size_t bin = 0; bin < histogram.counts.size(); ++bin) {
+        const int count = histogram.counts[bin];
+        const int bar = static_cast<int>(qint64(count) * widestBar / most);
+        text += column(histogram.lower + width * static_cast<double>(bin)) + QString::number(count).rightJustified(10) +
+                QLatin1Char(' ') + QString(bar, QLatin1Char('#')) + QLatin1Char('\n');
+    }
+    return text;
+}
+
+QString regions(const MeshQualityReport& report)
+{
+    QString text;
+    for (const MeshQualityReport::Region& region : report.regions()) {
+        text += QStringLiteral("  region %1: %2 tetrahedra (%3 inverted, %4 flat)\n")
+                    .arg(regionName(region.name, region.physicalTag), QString::number(region.elementCount),
+                         QString::number(region.invertedCount), QString::number(region.flatCount));
+        text += QStringLiteral("                             mean      minimum          1 %          5 %       median"
+                               "         95 %      maximum\n");
+        for (std::size_t i = 0; i < region.summaries.size(); ++i) {
+            const MeshQualityReport::Summary& s = region.summaries[i];
+            text += QStringLiteral("    ") + MeshQualityReport::metricName(static_cast<Metric>(i)).leftJustified(19) +
+                    column(s.mean) + column(s.minimum) + column(s.percentile1) + column(s.percentile5) +
+                    column(s.median) + column(s.percentile95) + column(s.maximum) + QLatin1Char('\n');
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+QString textDetails(const MeshQualityReport& report, const ReportOptions& options)
+{
+    return (options.worstCount > 0 ? worst(report, options) : QString()) +
+           (options.histogram ? histogram(report, *options.histogram) : QString()) +
+           (options.byRegion ? regions(report) : QString());
+}
+
+} // namespace MeshQuality
