@@ -7,6 +7,7 @@
 #include "meshquality/MeshFiles.h"
 
 #include <datamanager/meshquality/MeshQualityPredict.h>
+#include <datamanager/meshquality/MeshQualityReport.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -16,6 +17,8 @@
 #include <QtTest>
 
 #include <sys/stat.h>
+
+using Metric = DataManager::MeshQualityReport::Metric;
 
 class MeshQualityProgramTest : public QObject
 {
@@ -31,6 +34,11 @@ private Q_SLOTS:
     void tellsSkippedLines();
     void reportsForPrograms();
     void writesJsonIntoFile();
+    void addsSpreadRegionsAndWorstToJson();
+    void writesEveryElementIntoCsv();
+    void listsTheWorst();
+    void drawsHistogram();
+    void tellsOfRegions();
     void writesNullForNoNumber();
     void refusesUnreadableMeshes_data();
     void refusesUnreadableMeshes();
@@ -76,6 +84,26 @@ QJsonObject onlyObject(const QByteArray& json)
 {
     const QJsonArray array = QJsonDocument::fromJson(json).array();
     return array.size() == 1 ? array.first().toObject() : QJsonObject();
+}
+
+/// All keys in the order in which they stand there.
+QStringList keysOf(const QByteArray& json)
+{
+    QStringList keys;
+    QRegularExpressionMatchIterator match =
+        QRegularExpression(QStringLiteral("\"(\\w+)\":")).globalMatch(QString::fromUtf8(json));
+    while (match.hasNext()) {
+        keys.append(match.next().captured(1));
+    }
+    return keys;
+}
+
+/// The same table by another road.
+DataManager::MeshQualityReport measured(const QString& mesh)
+{
+    DataManager::MeshQualityReport measures;
+    measures.measure(mesh);
+    return measures;
 }
 
 float scoreOf(const QString& mesh)
@@ -125,6 +153,11 @@ void MeshQualityProgramTest::refusesWrongCalls_data()
     row("report --jsn a.msh", "Unknown option 'jsn'.");
     row("report a.msh --model", "Missing value after '--model'.");
     row("report --json= a.msh", "--json needs a file");
+    row("report --worst 0 a.msh", "--worst needs a number from 1");
+    row("report --worst x a.msh", "--worst needs a number from 1");
+    row("report --by Shape a.msh", "--by goes with --worst");
+    row("report --worst 3 --by Beauty a.msh", "there is no metric 'Beauty'");
+    row("report --histogram Beauty a.msh", "there is no metric 'Beauty'");
     row("predict a.msh", "predict takes no arguments");
 }
 
@@ -194,13 +227,8 @@ void MeshQualityProgramTest::reportsForPrograms()
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.errors, QByteArray());
 
-    QStringList keys;
-    QRegularExpressionMatchIterator match =
-        QRegularExpression(QStringLiteral("\"(\\w+)\":")).globalMatch(QString::fromUtf8(run.output));
-    while (match.hasNext()) {
-        keys.append(match.next().captured(1));
-    }
-    QCOMPARE(keys.join(QLatin1Char(' ')),
+    const QStringList keys = keysOf(run.output);
+    QCOMPARE(keys.mid(0, 19).join(QLatin1Char(' ')),
              QStringLiteral("file nodes tetrahedra inverted flat skippedLines features Volume EdgeRatio AspectRatio "
                             "AspectGamma Condition Jacobian RadiusRatio RelativeSizeSquared ScaledJacobian Shape "
                             "ShapeAndSize score"));
@@ -235,6 +263,115 @@ void MeshQualityProgramTest::writesJsonIntoFile()
     const ProgramRun failed = runMeshQuality(report + QStringList{QStringLiteral("--json"), impossible, slivers});
     QCOMPARE(failed.exitCode, 2);
     QCOMPARE(failed.errors, "meshquality: " + impossible.toUtf8() + ": cannot be written\n");
+}
+
+void MeshQualityProgramTest::addsSpreadRegionsAndWorstToJson()
+{
+    const ProgramRun run = runMeshQuality(
+        report + QStringList{QStringLiteral("--json"), QStringLiteral("-"), QStringLiteral("--worst"),
+                             QStringLiteral("3"), QStringLiteral("--by"), QStringLiteral("edgeratio"), slivers});
+    QCOMPARE(run.exitCode, 0);
+    const QJsonObject mesh = onlyObject(run.output);
+    const DataManager::MeshQualityReport expected = measured(slivers);
+    const auto shape = expected.summary(Metric::Shape);
+    const QJsonObject metrics = mesh.value(QStringLiteral("metrics")).toObject();
+    QCOMPARE(metrics.size(), 11);
+    const QJsonObject spread = metrics.value(QStringLiteral("Shape")).toObject();
+    QCOMPARE(spread.value(QStringLiteral("minimum")).toDouble(), shape.minimum);
+    QCOMPARE(spread.value(QStringLiteral("percentile5")).toDouble(), shape.percentile5);
+    QCOMPARE(spread.value(QStringLiteral("standardDeviation")).toDouble(), shape.standardDeviation);
+    QCOMPARE(spread.size(), 10);
+
+    const QJsonArray regions = mesh.value(QStringLiteral("regions")).toArray();
+    QCOMPARE(regions.size(), 1);
+    QCOMPARE(regions.first().toObject().value(QStringLiteral("name")).toString(), QStringLiteral("solid"));
+    QCOMPARE(regions.first().toObject().value(QStringLiteral("tetrahedra")).toInt(), 3156);
+
+    const QJsonArray worst = mesh.value(QStringLiteral("worst")).toArray();
+    QCOMPARE(worst.size(), 3);
+    for (int i = 0; i < 3; ++i) {
+        const int element = expected.worst(Metric::EdgeRatio, 3)[static_cast<std::size_t>(i)];
+        QCOMPARE(worst.at(i).toObject().value(QStringLiteral("element")).toInt(), expected.tag(element));
+        QCOMPARE(worst.at(i).toObject().value(QStringLiteral("centroid")).toArray().at(2).toDouble(),
+                 expected.centroid(element)[2]);
+    }
+}
+
+void MeshQualityProgramTest::writesEveryElementIntoCsv()
+{
+    const QString mesh = file("with \"quotes\", and comma.msh", MeshFiles::oneTetrahedron(MeshFiles::rightCorner()));
+    const QString csv = path("elements.csv");
+    const ProgramRun run = runMeshQuality(report + QStringList{QStringLiteral("--csv"), csv, mesh, slivers});
+    QCOMPARE(run.exitCode, 0);
+    QFile written(csv);
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    const QList<QByteArray> lines = written.readAll().split('\n');
+    QCOMPARE(lines.size(), 1 + 1 + 3156 + 1);
+    QCOMPARE(lines.at(0),
+             QByteArray("file,element,region,line,x,y,z,Volume,EdgeRatio,AspectRatio,AspectGamma,Condition,"
+                        "Jacobian,RadiusRatio,RelativeSizeSquared,ScaledJacobian,Shape,ShapeAndSize"));
+    QVERIFY(lines.at(1).startsWith('"' + mesh.toUtf8().replace('"', "\"\"") +
+                                   "\",1,0,13,0.25,0.25,0.25,0.16666666666666666,"));
+    const DataManager::MeshQualityReport expected = measured(slivers);
+    for (int element = 0; element < 3156; ++element) {
+        const QList<QByteArray> fields = lines.at(2 + element).split(',');
+        QCOMPARE(fields.size(), 18);
+        QCOMPARE(fields.at(1).toInt(), expected.tag(element));
+        QCOMPARE(fields.at(16).toDouble(), expected.values(Metric::Shape)[static_cast<std::size_t>(element)]);
+    }
+    const QString impossible = path("no/such/directory/elements.csv");
+    const ProgramRun failed = runMeshQuality(report + QStringList{QStringLiteral("--csv"), impossible, slivers});
+    QCOMPARE(failed.exitCode, 2);
+    QCOMPARE(failed.errors, "meshquality: " + impossible.toUtf8() + ": cannot be written\n");
+}
+
+void MeshQualityProgramTest::listsTheWorst()
+{
+    const ProgramRun run =
+        runMeshQuality(report + QStringList{QStringLiteral("--worst"), QStringLiteral("2"), slivers});
+    QCOMPARE(run.exitCode, 0);
+    const DataManager::MeshQualityReport expected = measured(slivers);
+    int from = run.output.indexOf("worst by Shape:");
+    QVERIFY(from > 0);
+    for (const int element : expected.worst(Metric::Shape, 2)) {
+        const QByteArray text = "element " + QByteArray::number(expected.tag(element)) + " (line " +
+                                QByteArray::number(expected.line(element)) + "), region 1 \"solid\", at ";
+        from = run.output.indexOf(text, from);
+        QVERIFY(from > 0);
+    }
+    QCOMPARE(run.output.count("    element "), 2);
+}
+
+void MeshQualityProgramTest::drawsHistogram()
+{
+    const ProgramRun run =
+        runMeshQuality(report + QStringList{QStringLiteral("--histogram"), QStringLiteral("ScaledJacobian"), slivers});
+    QCOMPARE(run.exitCode, 0);
+    const QByteArray drawing = run.output.mid(run.output.indexOf("  ScaledJacobian:\n"));
+    const QList<QByteArray> lines = drawing.split('\n');
+    QCOMPARE(lines.size(), 1 + 20 + 1);
+    int total = 0;
+    for (int bin = 1; bin <= 20; ++bin) {
+        total += lines.at(bin).simplified().split(' ').at(1).toInt();
+    }
+    QCOMPARE(total, 3156);
+    QVERIFY(drawing.contains(QByteArray(50, '#')));
+    QVERIFY(!drawing.contains(QByteArray(51, '#')));
+}
+
+void MeshQualityProgramTest::tellsOfRegions()
+{
+    const QString housing = QStringLiteral(DATAMANAGER_SOURCE_DIR "/samples/bearing-housing.msh");
+    const ProgramRun run = runMeshQuality(report + QStringList{QStringLiteral("--by-region"), housing});
+    QCOMPARE(run.exitCode, 0);
+    const std::vector<DataManager::MeshQualityReport::Region> regions = measured(housing).regions();
+    QCOMPARE(regions.size(), std::size_t(3));
+    for (const DataManager::MeshQualityReport::Region& region : regions) {
+        const QByteArray start = "  region " + QByteArray::number(region.physicalTag) + " \"" + region.name.toUtf8() +
+                                 "\": " + QByteArray::number(region.elementCount) +
+                                 " tetrahedra (0 inverted, 0 flat)\n";
+        QVERIFY(run.output.contains(start));
+    }
 }
 
 void MeshQualityProgramTest::writesNullForNoNumber()
