@@ -74,13 +74,19 @@ int codeUnit(const QString& escaped, int position)
 
 QString EscapedText::escape(const QString& text, QChar separator)
 {
-    QString escaped;
-    escaped.reserve(text.size());
-    for (int i = 0; i < text.size(); ++i) {
-        if (needsEscape(text, i, separator)) {
-            appendEscaped(escaped, text.at(i));
+    int position = 0;
+    while (position < text.size() && !needsEscape(text, position, separator)) {
+        ++position;
+    }
+    if (position == text.size()) {
+        return text;
+    }
+    QString escaped = text.left(position);
+    for (; position < text.size(); ++position) {
+        if (needsEscape(text, position, separator)) {
+            appendEscaped(escaped, text.at(position));
         } else {
-            escaped += text.at(i);
+            escaped += text.at(position);
         }
     }
     return escaped;
