@@ -2,16 +2,16 @@
 // SPDX-License-Identifier: BSD-3-Clause
 
 #include "ChainModel.h"
+#include "CoordinateFiles.h"
 #include "RegistryFixture.h"
 
 #include <datamanager/coordinates/RelativeCoordinateSystemDateManager.h>
 
 #include <QDir>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include <QRegularExpression>
 #include <QTest>
 
+#include <limits>
 #include <memory>
 #include <random>
 
@@ -20,35 +20,17 @@ using DataManager::RelativeCoordinateSystemDate;
 
 namespace {
 
-const char* const keys[] = {"m_IDList",           "m_basicCoorSysIDList",   "m_nameList",
-                            "m_typeList",         "m_offsetCoordinateList", "m_rotateDirectionList",
-                            "m_actorRoateDirList"};
-
-QJsonObject parsed(const QByteArray& json)
+/// The pattern of a list's elements; of whole numbers, which have none in the schema, the decimal form.
+QString patternOf(const QJsonObject& schema, const QString& key)
 {
-    return QJsonDocument::fromJson(json).object();
-}
-
-/// A file content whose seven lists are given in the order of the keys.
-QByteArray fileOf(const QVector<QJsonArray>& lists)
-{
-    QJsonObject object;
-    for (int i = 0; i < lists.size(); ++i) {
-        object.insert(QString::fromLatin1(keys[i]), lists.at(i));
+    const QJsonObject property = schema.value(QLatin1String("properties")).toObject().value(key).toObject();
+    QJsonObject items = property.value(QLatin1String("items")).toObject();
+    const QString definition = items.value(QLatin1String("$ref")).toString().section(QLatin1Char('/'), -1);
+    if (!definition.isEmpty()) {
+        items = schema.value(QLatin1String("$defs")).toObject().value(definition).toObject();
     }
-    return QJsonDocument(object).toJson();
-}
-
-/// Three systems in a chain, below a global one that is not stored.
-QByteArray goodFile()
-{
-    return fileOf({{3, 5, 9},
-                   {0, 3, 5},
-                   {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")},
-                   {QStringLiteral("0:0;3:1"), QStringLiteral("0:0;3:1;5:2"), QStringLiteral("0:0;3:1;5:2;9:3")},
-                   {QStringLiteral("3:1,2,3"), QStringLiteral("5:4,5,6"), QStringLiteral("9:7,8,9")},
-                   {QStringLiteral("3:0.5,0,0"), QStringLiteral("5:0,0.5,0"), QStringLiteral("9:0,0,0.5")},
-                   {QStringLiteral("3:X,1"), QStringLiteral("5:Y,2"), QStringLiteral("9:Z,3")}});
+    const bool isInteger = items.value(QLatin1String("type")).toString() == QLatin1String("integer");
+    return isInteger ? QStringLiteral("^-?[0-9]+$") : items.value(QLatin1String("pattern")).toString();
 }
 
 } // namespace
@@ -135,6 +117,39 @@ private Q_SLOTS:
                                      "    \"m_typeList\": [\n        \"0:1;3:4\"\n    ]\n"
                                      "}\n";
         QCOMPARE(m_fixture->fileContent(), QByteArray(expected));
+    }
+
+    void matchesItsSchema()
+    {
+        QFile file(QStringLiteral(DATAMANAGER_SOURCE_DIR "/docs/schemas/RelativeCoordinateSystemDate.schema.json"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QJsonObject schema = QJsonDocument::fromJson(file.readAll()).object();
+        addGlobal();
+        for (int id = 1; id < 40; ++id) {
+            registry()->m_coordinateSystemList.append(make(id, id / 2, QStringLiteral("%;"), id * 1000 - 3));
+        }
+        double awkward[3] = {std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN(),
+                             -1e-300};
+        registry()->getCoordinateSystemByID(1)->setOffsetCoordinate(awkward, 1, 0, 1);
+        RelativeCoordinateSystem* const withoutChains = m_fixture->add(50);
+        QCOMPARE(withoutChains->getTypePairList().size(), 0);
+        registry()->writeConfig();
+        const QJsonObject object = parsed(m_fixture->fileContent());
+        const QJsonObject properties = schema.value(QLatin1String("properties")).toObject();
+        QCOMPARE(object.keys(), properties.keys());
+        QCOMPARE(schema.value(QLatin1String("required")).toArray().size(), object.size());
+        for (const char* key : keys) {
+            const QRegularExpression pattern(patternOf(schema, QLatin1String(key)));
+            QVERIFY2(pattern.isValid(), key);
+            const QJsonArray elements = object.value(QLatin1String(key)).toArray();
+            QCOMPARE(elements.size(), 40);
+            for (const QJsonValue element : elements) {
+                QVERIFY2(pattern.match(element.toVariant().toString()).hasMatch(), qPrintable(element.toString()));
+            }
+        }
+        QVERIFY(!QRegularExpression(patternOf(schema, QStringLiteral("m_offsetCoordinateList")))
+                     .match(QStringLiteral("0:1,2;3:1,2,3"))
+                     .hasMatch());
     }
 
     void writesAfterAppendingAndRemovingByID()
@@ -302,98 +317,12 @@ private Q_SLOTS:
         QCOMPARE(registry()->m_dataManager->getBasicCoorSysIDList(), QList<int>{8});
     }
 
-    void readsListsOfUnequalLength()
-    {
-        readFile(fileOf({{3, 5}, {}, {QStringLiteral("only")}, {}, {QStringLiteral("3:1,2,3")}, {}, {}}));
-        QCOMPARE(m_fixture->ids(), (QList<int>{0, 3, 5}));
-        const QList<PlainSystem> systems = plainRegistry();
-        QCOMPARE(systems.at(1).name, QStringLiteral("only"));
-        QCOMPARE(systems.at(2).name, QString());
-        QCOMPARE(systems.at(2).basicID, 0);
-        QCOMPARE(systems.at(1).chains.at(1).last(), QStringLiteral("3 1 2 3"));
-        QCOMPARE(systems.at(2).chains, QVector<QStringList>(4));
-    }
-
-    void readsTheFirstThreeDoublesOfALevel_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("levels");
-        const QString global = LevelValues(0).texts(0).at(1);
-        QTest::newRow("three") << QStringLiteral("3:1,2,3") << QStringList{global, QStringLiteral("3 1 2 3")};
-        QTest::newRow("more") << QStringLiteral("3:1,2,3,4") << QStringList{global, QStringLiteral("3 1 2 3")};
-        QTest::newRow("fewer") << QStringLiteral("3:1,2") << QStringList();
-        QTest::newRow("none") << QStringLiteral("3:") << QStringList();
-        QTest::newRow("fewer in one level")
-            << QStringLiteral("2:1,2,3;3:1") << QStringList{global, QStringLiteral("2 1 2 3")};
-        QTest::newRow("no number") << QStringLiteral("3:1,2,x") << QStringList();
-    }
-    void readsTheFirstThreeDoublesOfALevel()
-    {
-        QFETCH(QString, text);
-        QFETCH(QStringList, levels);
-        readFile(fileOf({{3}, {0}, {QString()}, {}, {text}, {}, {}}));
-        QCOMPARE(chain(1, 1), levels);
-    }
-
-    void survivesLoopsAndRepeatedIDs()
-    {
-        readFile(fileOf({{3, 4, 4, 5, 0},
-                         {4, 3, 3, 5, 0},
-                         {},
-                         {QStringLiteral("3:1"), QStringLiteral("4:2"), QStringLiteral("4:3"), QStringLiteral("5:4"),
-                          QStringLiteral("0:5")},
-                         {},
-                         {QStringLiteral("3:0,0,1"), QStringLiteral("4:0,0,1"), QStringLiteral("4:1,0,0"),
-                          QStringLiteral("5:0,0,1"), QStringLiteral("0:1,0,0")},
-                         {}}));
-        QCOMPARE(m_fixture->ids(), (QList<int>{0, 3, 4, 4, 5, 0}));
-        QCOMPARE(chain(2, 0), (QStringList{QStringLiteral("3 1"), QStringLiteral("4 2")}));
-        for (int i = 0; i < 6; ++i) {
-            QVERIFY(!registry()->getCoordinateSystemByIndex(i)->getRotateDirection().isEmpty());
-            registry()->getCoordinateSystemByIndex(i)->getOffsetCoordinate();
-        }
-    }
-
-    void survivesAFileThatEndsAnywhere()
-    {
-        const QByteArray content = goodFile();
-        addGlobal();
-        for (int length = 0; length < content.size() - 2; ++length) {
-            QVERIFY(m_fixture->setFileContent(content.left(length)));
-            registry()->readConfig();
-            QCOMPARE(m_fixture->ids(), QList<int>{0});
-            QCOMPARE(m_fixture->fileContent(), content.left(length));
-        }
-    }
-
-    void survivesTextsThatAreDamagedAnywhere()
-    {
-        std::mt19937 generator(11);
-        const QByteArray content = goodFile();
-        addGlobal();
-        for (int i = 0; i < 300; ++i) {
-            QByteArray damaged = content;
-            damaged[static_cast<int>(generator() % static_cast<unsigned>(damaged.size()))] =
-                static_cast<char>(generator() % 256);
-            QVERIFY(m_fixture->setFileContent(damaged));
-            registry()->readConfig();
-            QVERIFY(registry()->getRelativeCoordinateSystemDateCount() <= 4);
-            for (int position = 0; position < registry()->getRelativeCoordinateSystemDateCount(); ++position) {
-                RelativeCoordinateSystem* const system = registry()->getCoordinateSystemByIndex(position);
-                system->getType();
-                system->getOffsetCoordinate();
-                QCOMPARE(system->getRotateDirection().size(), system->getRotateDirectionListPairList().size());
-            }
-            registry()->resetData();
-        }
-    }
-
     void keepsAwkwardNames()
     {
         const QString name = QString::fromUcs4(U"\"\\;:,%\n\u00e9\u6797\U0001F9ED") + QChar(0) + QLatin1Char('e');
         addGlobal();
         registry()->appendCoordinateSystem(make(1, 0, name, 1));
-        registry()->appendCoordinateSystem(make(2, 0, QString(), 2));
+        registry()->appendCoordinateSystem(make(2, 0, QChar(QChar::ByteOrderMark) + name, 2));
         setLevels(*registry()->getCoordinateSystemByID(2), LevelValues(1), 0, 0, 2);
         registry()->getCoordinateSystemByID(2)->setActorRotateDirection({name, 1}, 0, 0, 2);
         registry()->writeConfig();

@@ -370,12 +370,14 @@ private Q_SLOTS:
         vtkNew<vtkMatrix4x4> unused;
         unused->SetElement(0, 3, 1000);
         m_fixture->add(0)->setActorMatrix(unused);
-        m_fixture->add(2)->setActorMatrix(matrix);
-        RelativeCoordinateSystem* const system = m_fixture->add(5, 2);
+        RelativeCoordinateSystem* const basic = m_fixture->add(2);
+        basic->setActorMatrix(matrix);
         double offset[3] = {9, 9, 9};
-        system->setOffsetCoordinate(offset, 0, 0, -1);
+        basic->setOffsetCoordinate(offset, 0, 0, -1);
+        RelativeCoordinateSystem* const system = m_fixture->add(5, 2);
         std::copy_n(QVector<double>{1, 2, 3}.constData(), 3, offset);
         system->setOffsetCoordinate(offset, 5, 2, -1);
+        QCOMPARE(system->getOffsetCoordinateListPairList().size(), 2);
         double* const result = system->getOffsetCoordinate();
         QCOMPARE(result, static_cast<double*>(system->m_offsetCoordinate));
         QCOMPARE((QVector<double>{result[0], result[1], result[2]}), origin);

@@ -376,6 +376,21 @@ private Q_SLOTS:
         QCOMPARE(registry()->getCoordinateSystemByID(3), nullptr);
     }
 
+    void leavesAloneWhatAListenerTookOut()
+    {
+        const Systems systems = addAll({0, 3, 5});
+        bool isFirst = true;
+        connect(registry(), &RelativeCoordinateSystemDate::signal_dataDeleted, registry(), [&isFirst] {
+            if (std::exchange(isFirst, false)) {
+                registry()->removeCoordinateSystemByID({3});
+            }
+        });
+        registry()->removeCoordinateSystemByIndex(1);
+        QCOMPARE(m_fixture->ids(), (QList<int>{0, 5}));
+        QVERIFY(!systems.at(1).isNull());
+        delete systems.at(1).data();
+    }
+
     void survivesListenersOfRemovalByID_data() { addInterferences(); }
     void survivesListenersOfRemovalByID()
     {
