@@ -31,8 +31,11 @@ bool isFragile(ushort unit)
 bool needsEscape(const QString& text, int position, QChar separator)
 {
     const QChar unit = text.at(position);
-    return unit == mark || (!separator.isNull() && unit == separator) || isFragile(unit.unicode()) ||
-           isHalfSurrogate(text, position);
+    // Most texts are numbers and names in ASCII.
+    if (unit >= QLatin1Char(' ') && unit <= QLatin1Char('~')) {
+        return unit == mark || unit == separator;
+    }
+    return (!separator.isNull() && unit == separator) || isFragile(unit.unicode()) || isHalfSurrogate(text, position);
 }
 
 void appendEscaped(QString& escaped, QChar unit)

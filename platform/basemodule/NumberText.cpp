@@ -20,11 +20,11 @@ namespace {
 constexpr int bufferSize = 32;
 
 template <class Number>
-QString shortestText(Number value)
+void appendShortest(QString& text, Number value)
 {
     char buffer[bufferSize];
     const std::to_chars_result end = std::to_chars(buffer, buffer + bufferSize, value);
-    return QString::fromLatin1(buffer, static_cast<int>(end.ptr - buffer));
+    text += QLatin1String(buffer, static_cast<int>(end.ptr - buffer));
 }
 
 template <class Number>
@@ -42,14 +42,18 @@ bool parseWhole(const QByteArray& text, Number& value)
 
 } // namespace
 
-QString NumberText::fromInt(int value)
+void NumberText::append(QString& text, int value)
 {
-    return shortestText(value);
+    appendShortest(text, value);
 }
 
-QString NumberText::fromDouble(double value)
+void NumberText::append(QString& text, double value)
 {
-    return std::isfinite(value) ? shortestText(value) : QJsonHelper::JsonNumber::fromDouble(value).toString();
+    if (std::isfinite(value)) {
+        appendShortest(text, value);
+    } else {
+        text += QJsonHelper::JsonNumber::fromDouble(value).toString();
+    }
 }
 
 // Characters beyond Latin-1 become question marks, which no number holds.

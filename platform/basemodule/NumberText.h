@@ -11,10 +11,10 @@ namespace BaseModule {
 /// Numbers as texts that read back to the same bits, under every locale. Not exported.
 namespace NumberText {
 
-QString fromInt(int value);
+void append(QString& text, int value);
 
 /// The shortest decimal form; "Infinity", "-Infinity", "NaN", and "NaN:" with the bits of an unusual one.
-QString fromDouble(double value);
+void append(QString& text, double value);
 
 /// False, with `value` unchanged, when the whole of `text` is not one decimal integer in the range of int.
 bool toInt(const QStringRef& text, int& value);

@@ -17,25 +17,27 @@ const QChar entrySeparator = QLatin1Char(';');
 const QChar keySeparator = QLatin1Char(':');
 const QChar valueSeparator = QLatin1Char(',');
 
-QString valueText(int value)
+void appendValue(QString& text, int value)
 {
-    return NumberText::fromInt(value);
+    NumberText::append(text, value);
 }
 
-QString valueText(double value)
+void appendValue(QString& text, double value)
 {
-    return NumberText::fromDouble(value);
+    NumberText::append(text, value);
 }
 
-QString valueText(const QString& value)
+void appendValue(QString& text, const QString& value)
 {
-    return EscapedText::escape(value, entrySeparator);
+    text += EscapedText::escape(value, entrySeparator);
 }
 
 template <class Value>
-QString valueText(const QPair<int, Value>& pair)
+void appendValue(QString& text, const QPair<int, Value>& pair)
 {
-    return NumberText::fromInt(pair.first) + keySeparator + valueText(pair.second);
+    NumberText::append(text, pair.first);
+    text += keySeparator;
+    appendValue(text, pair.second);
 }
 
 bool parseValue(const QStringRef& text, int& value)
@@ -69,7 +71,7 @@ QString listText(const QList<Value>& list, QChar separator)
         if (!text.isEmpty()) {
             text += separator;
         }
-        text += valueText(value);
+        appendValue(text, value);
     }
     return text;
 }
@@ -128,7 +130,9 @@ QList<QPair<int, QString>> GlobalHelper::convertStringToIntQStringQList(QString 
 
 QString GlobalHelper::convertQStringDoubleQPairToQString(QPair<QString, double> pair)
 {
-    return EscapedText::escape(pair.first) + valueSeparator + NumberText::fromDouble(pair.second);
+    QString text = EscapedText::escape(pair.first) + valueSeparator;
+    NumberText::append(text, pair.second);
+    return text;
 }
 
 QPair<QString, double> GlobalHelper::convertStringToQStringDoublePair(QString text)
