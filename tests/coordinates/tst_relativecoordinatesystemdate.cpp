@@ -406,15 +406,19 @@ private Q_SLOTS:
         const Systems systems = addAll({0, 3, 5});
         registry()->writeConfig();
         bool isFirst = true;
+        Systems everRegistered = systems;
         connect(BaseModule::IBaseSignal::getInstance(), &BaseModule::IBaseSignal::signal_updateWindowTitle, registry(),
                 [&] {
+                    for (RelativeCoordinateSystem* system : qAsConst(registry()->m_coordinateSystemList)) {
+                        everRegistered.append(system);
+                    }
                     if (std::exchange(isFirst, false)) {
                         interfere(*registry(), systems);
                     }
                 });
         registry()->readConfig();
         QVERIFY(!isFirst);
-        deleteUnregistered(systems);
+        deleteUnregistered(everRegistered);
     }
 
 private:
