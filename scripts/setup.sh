@@ -4,9 +4,11 @@
 #
 # Installs what building and testing needs, on Debian 12 and 13, as root or with sudo; does nothing when all is there.
 #   scripts/setup.sh [--print-onnxruntime-root]
-# ONNX Runtime has no package in Debian 12. There its headers come from Debian 13's development package and the shared
-# library from the npm package that carries it, both pinned by checksum, into a private prefix below
-# ${DATAMANAGER_DEPS_DIR:-${XDG_CACHE_HOME:-$HOME/.cache}/datamanager}. Set ONNXRUNTIME_ROOT to use another install.
+# ONNX Runtime has no package in Debian 12, and Debian 13's registers its operators twice and prints more than a thousand
+# lines at each start. So on both its headers come from Debian 13's development package and the shared library from the
+# npm package that carries it, both pinned by checksum, into a private prefix below
+# ${DATAMANAGER_DEPS_DIR:-${XDG_CACHE_HOME:-$HOME/.cache}/datamanager}. Set ONNXRUNTIME_ROOT to use another install,
+# for example /usr for a system package.
 set -euo pipefail
 
 packages=(build-essential cmake ninja-build ccache git ca-certificates clang-format
@@ -105,11 +107,10 @@ case "$release" in
        "ONNX Runtime >= 1.20; then configure with 'cmake --preset release -DONNXRUNTIME_ROOT=DIR'." ;;
 esac
 
-[ "$release" = 13 ] && packages+=(libonnxruntime-dev)
 install_packages "${packages[@]}"
 
 root=${ONNXRUNTIME_ROOT:-}
-if [ -z "$root" ] && [ "$release" = 12 ]; then
+if [ -z "$root" ]; then
   root="${DATAMANAGER_DEPS_DIR:-${XDG_CACHE_HOME:-$HOME/.cache}/datamanager}/onnxruntime-$headers_version-$runtime_version"
   [ -e "$root/lib/libonnxruntime.so.1" ] && [ -d "$root/include/onnxruntime" ] || make_private_prefix "$root"
 fi
