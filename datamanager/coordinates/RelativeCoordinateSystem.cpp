@@ -10,6 +10,7 @@
 #include <vtkMatrix4x4.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace DataManager {
 
@@ -83,7 +84,7 @@ QString RelativeCoordinateSystem::getName() const
 
 void RelativeCoordinateSystem::setName(QString name)
 {
-    m_name = name;
+    m_name = std::move(name);
 }
 
 BaseWidget::FixedPixelSizeAxesActor* RelativeCoordinateSystem::getActor() const

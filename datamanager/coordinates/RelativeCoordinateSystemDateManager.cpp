@@ -3,6 +3,8 @@
 
 #include <datamanager/coordinates/RelativeCoordinateSystemDateManager.h>
 
+#include <utility>
+
 namespace DataManager {
 
 RelativeCoordinateSystemDateManager::RelativeCoordinateSystemDateManager() = default;
@@ -16,7 +18,7 @@ QList<int> RelativeCoordinateSystemDateManager::getIDList() const
 
 void RelativeCoordinateSystemDateManager::setIDList(QList<int> list)
 {
-    m_IDList = list;
+    m_IDList = std::move(list);
 }
 
 QList<int> RelativeCoordinateSystemDateManager::getBasicCoorSysIDList() const
@@ -26,7 +28,7 @@ QList<int> RelativeCoordinateSystemDateManager::getBasicCoorSysIDList() const
 
 void RelativeCoordinateSystemDateManager::setBasicCoorSysIDList(QList<int> list)
 {
-    m_basicCoorSysIDList = list;
+    m_basicCoorSysIDList = std::move(list);
 }
 
 QList<QString> RelativeCoordinateSystemDateManager::getNameList() const
@@ -36,7 +38,7 @@ QList<QString> RelativeCoordinateSystemDateManager::getNameList() const
 
 void RelativeCoordinateSystemDateManager::setNameList(QList<QString> list)
 {
-    m_nameList = list;
+    m_nameList = std::move(list);
 }
 
 QList<QString> RelativeCoordinateSystemDateManager::getTypeList() const
@@ -46,7 +48,7 @@ QList<QString> RelativeCoordinateSystemDateManager::getTypeList() const
 
 void RelativeCoordinateSystemDateManager::setTypeList(QList<QString> list)
 {
-    m_typeList = list;
+    m_typeList = std::move(list);
 }
 
 QList<QString> RelativeCoordinateSystemDateManager::getOffsetCoordinateList() const
@@ -56,7 +58,7 @@ QList<QString> RelativeCoordinateSystemDateManager::getOffsetCoordinateList() co
 
 void RelativeCoordinateSystemDateManager::setOffsetCoordinateList(QList<QString> list)
 {
-    m_offsetCoordinateList = list;
+    m_offsetCoordinateList = std::move(list);
 }
 
 QList<QString> RelativeCoordinateSystemDateManager::getRotateDirectionList() const
@@ -66,7 +68,7 @@ QList<QString> RelativeCoordinateSystemDateManager::getRotateDirectionList() con
 
 void RelativeCoordinateSystemDateManager::setRotateDirectionList(QList<QString> list)
 {
-    m_rotateDirectionList = list;
+    m_rotateDirectionList = std::move(list);
 }
 
 QList<QString> RelativeCoordinateSystemDateManager::getActorRoateDirList() const
@@ -76,7 +78,7 @@ QList<QString> RelativeCoordinateSystemDateManager::getActorRoateDirList() const
 
 void RelativeCoordinateSystemDateManager::setActorRoateDirList(QList<QString> list)
 {
-    m_actorRoateDirList = list;
+    m_actorRoateDirList = std::move(list);
 }
 
 void RelativeCoordinateSystemDateManager::clear()

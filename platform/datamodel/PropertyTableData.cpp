@@ -3,6 +3,8 @@
 
 #include <datamodel/PropertyTableData.h>
 
+#include <utility>
+
 namespace DataModel {
 
 void PropertyTableData::removeAllRowData()
@@ -12,7 +14,7 @@ void PropertyTableData::removeAllRowData()
 
 void PropertyTableData::appendRowKeyValue(QString key, QString value, bool isEditable)
 {
-    m_rowList.append({key, value, isEditable});
+    m_rowList.append({std::move(key), std::move(value), isEditable});
 }
 
 int PropertyTableData::getRowCount() const
