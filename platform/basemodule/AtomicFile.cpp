@@ -68,33 +68,84 @@ bool isSameFile(int descriptor, const QByteArray& path)
            opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }
 
-bool lock(int descriptor, int operation)
+/// The new content on its way: an open, locked file of our own.
+struct Temporary
+{
+    QByteArray name;
+    int descriptor = -1;
+};
+
+enum class Lock : int
+{
+    Held,
+    HeldElsewhere,
+    Unsupported
+};
+
+Lock tryLock(int descriptor)
 {
     int result = 0;
     do {
-        result = ::flock(descriptor, operation);
+        result = ::flock(descriptor, LOCK_EX | LOCK_NB);
     } while (result != 0 && errno == EINTR);
-    return result == 0;
+    if (result == 0) {
+        return Lock::Held;
+    }
+    return errno == EWOULDBLOCK ? Lock::HeldElsewhere : Lock::Unsupported;
 }
 
-/// Opens and locks the temporary; -1 on failure. Whoever held the lock before has renamed or removed the file that we
-/// opened, so the name is opened again until both agree.
-int openLocked(const QByteArray& temporary)
+/// Waits for another process that saves the same file, but not for one that hangs: the caller is the user interface.
+Lock waitForLock(int descriptor)
 {
-    for (;;) {
-        const int descriptor = ::open(temporary.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0666);
-        if (descriptor < 0) {
-            return -1;
-        }
-        if (!lock(descriptor, LOCK_EX)) {
-            ::close(descriptor);
-            return -1;
-        }
-        if (isSameFile(descriptor, temporary)) {
-            return descriptor;
-        }
-        ::close(descriptor);
+    constexpr int attempts = 200;
+    constexpr useconds_t pause = 10000;
+    Lock lock = tryLock(descriptor);
+    for (int i = 0; i < attempts && lock == Lock::HeldElsewhere; ++i) {
+        ::usleep(pause);
+        lock = tryLock(descriptor);
     }
+    return lock;
+}
+
+/// Whether nobody else owns the opened file or has another name for it: it may have been laid there for us to fill.
+bool isOurs(int descriptor)
+{
+    struct stat status = {};
+    return ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_nlink <= 1 &&
+           status.st_uid == ::geteuid();
+}
+
+/// Without locks the name itself is made unique; one that is abandoned stays.
+Temporary openUnique(const QByteArray& name, mode_t mode)
+{
+    const QByteArray unique = name + '.' + QByteArray::number(::getpid());
+    return {unique, ::open(unique.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode)};
+}
+
+/// Opens and locks the temporary; without a descriptor on failure. Whoever held the lock before has renamed or removed
+/// the file that we opened, so the name is opened again until both agree.
+Temporary openLocked(const QByteArray& name, mode_t mode)
+{
+    constexpr int attempts = 100;
+    for (int i = 0; i < attempts; ++i) {
+        const int descriptor = ::open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, mode);
+        if (descriptor < 0) {
+            return {};
+        }
+        const Lock lock = waitForLock(descriptor);
+        if (lock == Lock::Held && isSameFile(descriptor, name) && isOurs(descriptor)) {
+            return {name, descriptor};
+        }
+        const bool isForeign = lock == Lock::Held && isSameFile(descriptor, name);
+        ::close(descriptor);
+        if (lock == Lock::Unsupported) {
+            return openUnique(name, mode);
+        }
+        if (lock == Lock::HeldElsewhere || (isForeign && ::unlink(name.constData()) != 0)) {
+            return {};
+        }
+    }
+    return {};
 }
 
 bool writeAll(int descriptor, const QByteArray& content)
@@ -139,16 +190,28 @@ void syncDirectory(const QByteArray& directory)
     }
 }
 
-bool fillAndRename(int descriptor, const QByteArray& temporary, const QByteArray& target, const QByteArray& content)
+/// The file that is there already.
+struct OldFile
 {
-    struct stat old = {};
-    const bool exists = ::stat(target.constData(), &old) == 0;
-    if (exists && (!S_ISREG(old.st_mode) || ::access(target.constData(), W_OK) != 0)) {
-        return false;
-    }
-    return ::ftruncate(descriptor, 0) == 0 && writeAll(descriptor, content) &&
-           (!exists || copyOwnership(descriptor, old)) && ::fsync(descriptor) == 0 &&
-           ::rename(temporary.constData(), target.constData()) == 0;
+    bool exists = false;
+    struct stat status = {};
+};
+
+bool isReplaceable(const QByteArray& target, OldFile& old)
+{
+    old.exists = ::stat(target.constData(), &old.status) == 0;
+    return !old.exists ||
+           (S_ISREG(old.status.st_mode) && ::faccessat(AT_FDCWD, target.constData(), W_OK, AT_EACCESS) == 0);
+}
+
+/// The permissions are set before the first byte is written, so that nobody reads the new content who could not read
+/// the old one.
+bool fillAndRename(const Temporary& temporary, const QByteArray& target, const OldFile& old, const QByteArray& content)
+{
+    const int descriptor = temporary.descriptor;
+    return ::ftruncate(descriptor, 0) == 0 && (!old.exists || copyOwnership(descriptor, old.status)) &&
+           writeAll(descriptor, content) && ::fsync(descriptor) == 0 &&
+           ::rename(temporary.name.constData(), target.constData()) == 0;
 }
 
 } // namespace
@@ -156,21 +219,22 @@ bool fillAndRename(int descriptor, const QByteArray& temporary, const QByteArray
 bool AtomicFile::replace(const QString& path, const QByteArray& content)
 {
     const QByteArray target = writtenFile(path);
-    if (target.isEmpty()) {
+    OldFile old;
+    if (target.isEmpty() || !isReplaceable(target, old)) {
         return false;
     }
-    const QByteArray temporary = temporaryFor(target);
-    const int descriptor = openLocked(temporary);
-    if (descriptor < 0) {
+    const mode_t mode = old.exists ? old.status.st_mode & 0600 : 0666;
+    const Temporary temporary = openLocked(temporaryFor(target), mode);
+    if (temporary.descriptor < 0) {
         return false;
     }
-    const bool isReplaced = fillAndRename(descriptor, temporary, target, content);
+    const bool isReplaced = fillAndRename(temporary, target, old, content);
     if (isReplaced) {
         syncDirectory(directoryOf(target));
     } else {
-        ::unlink(temporary.constData());
+        ::unlink(temporary.name.constData());
     }
-    ::close(descriptor);
+    ::close(temporary.descriptor);
     return isReplaced;
 }
 
@@ -181,11 +245,11 @@ void AtomicFile::removeAbandonedTemporary(const QString& path)
         return;
     }
     const QByteArray temporary = temporaryFor(target);
-    const int descriptor = ::open(temporary.constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW);
+    const int descriptor = ::open(temporary.constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
     if (descriptor < 0) {
         return;
     }
-    if (lock(descriptor, LOCK_EX | LOCK_NB) && isSameFile(descriptor, temporary)) {
+    if (tryLock(descriptor) == Lock::Held && isSameFile(descriptor, temporary)) {
         ::unlink(temporary.constData());
     }
     ::close(descriptor);

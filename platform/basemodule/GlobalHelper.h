@@ -22,8 +22,10 @@ public:
 
     /// Writes a file; true when every byte has reached the disk.
     /// With `WriteOnly | Truncate` the file is replaced as a whole: after a crash, a full disk or any other failure it
-    /// holds its old content or the new one, never a part. A symbolic link is followed; anything but a regular file is
-    /// refused. With any other mode the file is opened in that mode and the bytes are written to it.
+    /// holds its old content or the new one, never a part. A symbolic link is followed; of a file with several hard
+    /// links only this name gets the new content; anything but a regular file is refused. Another process that saves
+    /// the same file is waited for, two seconds at most. With any other mode the file is opened in that mode and the
+    /// bytes are written to it.
     static bool writeFile(QString path, QByteArray data, QIODevice::OpenMode mode);
 
     /// The directory, without a trailing separator, where the open project keeps its working files. Before the first

@@ -103,8 +103,7 @@ public:
     QDate date;
 };
 
-namespace
-{
+namespace {
 const bool recordsAreRegistered =
     QJsonHelper::registerRecordType<InnerRecord>() && QJsonHelper::registerRecordType<ChainRecord>();
 }

@@ -19,8 +19,7 @@
 
 using BaseModule::GlobalHelper;
 
-namespace
-{
+namespace {
 
 const QIODevice::OpenMode replaceWhole = QIODevice::WriteOnly | QIODevice::Truncate;
 
@@ -79,16 +78,22 @@ private Q_SLOTS:
     void anAbandonedTemporaryIsRemoved();
     void readingLeavesWhatIsBeingWritten();
     void readFailureLeavesTheArgument();
+    void givesUpOnASaveThatHangs();
+    void aPrivateFileStaysPrivateWhileItIsWritten();
+    void refusesToFillAPlantedTemporary();
+    void givesOneOfSeveralHardLinksItsOwnContent();
     void oddPaths_data();
     void oddPaths();
     void projectDirectory();
     void developmentConfiguration();
 
 private:
+    QString temporaryOf(const QString& file) const;
     QString path(const QString& name) const { return m_directory->filePath(name); }
     QStringList entries() const
     {
-        return QDir(m_directory->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+        return QDir(m_directory->path())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     }
 
     QScopedPointer<QTemporaryDir> m_directory;
@@ -279,6 +284,77 @@ void tst_GlobalHelper::readFailureLeavesTheArgument()
     QByteArray read("before");
     QVERIFY(!GlobalHelper::readFile(path(QStringLiteral("absent")), read));
     QCOMPARE(read, QByteArray("before"));
+}
+
+// The name that the temporary of "file" has is learned from a save that is killed.
+QString tst_GlobalHelper::temporaryOf(const QString& file) const
+{
+    const QStringList before = entries();
+    if (!dieWhileWriting(path(file))) {
+        return {};
+    }
+    QStringList after = entries();
+    for (const QString& name : before) {
+        after.removeAll(name);
+    }
+    return after.value(0);
+}
+
+void tst_GlobalHelper::givesUpOnASaveThatHangs()
+{
+    const QString file = path(QStringLiteral("file"));
+    QVERIFY(GlobalHelper::writeFile(file, "old", replaceWhole));
+    const QString temporary = path(temporaryOf(QStringLiteral("file")));
+    const int descriptor = ::open(QFile::encodeName(temporary).constData(), O_RDWR);
+    QCOMPARE(::flock(descriptor, LOCK_EX), 0);
+    QVERIFY(!GlobalHelper::writeFile(file, "new", replaceWhole));
+    QCOMPARE(contentOf(file), QByteArray("old"));
+    ::close(descriptor);
+    QVERIFY(GlobalHelper::writeFile(file, "new", replaceWhole));
+    QCOMPARE(contentOf(file), QByteArray("new"));
+}
+
+void tst_GlobalHelper::aPrivateFileStaysPrivateWhileItIsWritten()
+{
+    const QString file = path(QStringLiteral("file"));
+    QVERIFY(GlobalHelper::writeFile(file, "old", replaceWhole));
+    QCOMPARE(::chmod(QFile::encodeName(file).constData(), 0600), 0);
+    const QString temporary = path(temporaryOf(QStringLiteral("file")));
+    struct stat status = {};
+    QCOMPARE(::stat(QFile::encodeName(temporary).constData(), &status), 0);
+    QVERIFY(status.st_size > 0);
+    QCOMPARE(int(status.st_mode & 07777), 0600);
+}
+
+void tst_GlobalHelper::refusesToFillAPlantedTemporary()
+{
+    const QString file = path(QStringLiteral("file"));
+    const QString victim = path(QStringLiteral("victim"));
+    QVERIFY(GlobalHelper::writeFile(file, "old", replaceWhole));
+    QVERIFY(GlobalHelper::writeFile(victim, "precious", replaceWhole));
+    const QString temporary = path(temporaryOf(QStringLiteral("file")));
+    QVERIFY(QFile::remove(temporary));
+
+    QCOMPARE(::link(QFile::encodeName(victim).constData(), QFile::encodeName(temporary).constData()), 0);
+    QVERIFY(GlobalHelper::writeFile(file, "new", replaceWhole));
+    QCOMPARE(contentOf(file), QByteArray("new"));
+    QCOMPARE(contentOf(victim), QByteArray("precious"));
+
+    QVERIFY(QFile::link(victim, temporary));
+    QVERIFY(!GlobalHelper::writeFile(file, "newer", replaceWhole));
+    QCOMPARE(contentOf(file), QByteArray("new"));
+    QCOMPARE(contentOf(victim), QByteArray("precious"));
+}
+
+void tst_GlobalHelper::givesOneOfSeveralHardLinksItsOwnContent()
+{
+    const QString one = path(QStringLiteral("one"));
+    const QString other = path(QStringLiteral("other"));
+    QVERIFY(GlobalHelper::writeFile(one, "old", replaceWhole));
+    QCOMPARE(::link(QFile::encodeName(one).constData(), QFile::encodeName(other).constData()), 0);
+    QVERIFY(GlobalHelper::writeFile(one, "new", replaceWhole));
+    QCOMPARE(contentOf(one), QByteArray("new"));
+    QCOMPARE(contentOf(other), QByteArray("old"));
 }
 
 void tst_GlobalHelper::oddPaths_data()

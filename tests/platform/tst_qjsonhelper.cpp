@@ -17,8 +17,7 @@
 using QJsonHelper::DeserializerBase;
 using QJsonHelper::SerializerBase;
 
-namespace
-{
+namespace {
 
 template <class Record>
 QByteArray toJson(const Record& record, bool isIndented = false)

@@ -39,10 +39,7 @@ public:
         return entries;
     }
 
-    void append(const QString& entry)
-    {
-        m_entries.append(m_state ? entry + QStringLiteral(" | ") + m_state() : entry);
-    }
+    void append(const QString& entry) { m_entries.append(m_state ? entry + QStringLiteral(" | ") + m_state() : entry); }
 
 private:
     using Hub = BaseModule::IBaseSignal;
