@@ -41,7 +41,7 @@ QVector<double> forEachElement(const EdgeVectors& edgeVectors, Formula formula)
 
 QVector<double> MeshQualityPredict::get_AspectRatio(QVector<double> Lmaxs, QVector<double> rs)
 {
-    return forEachPair(Lmaxs, rs, Tetrahedron::aspectRatio);
+    return forEachPair(Lmaxs, rs, Tetrahedron::aspectRatio<double>);
 }
 
 QVector<double> MeshQualityPredict::get_AspectGamma(EdgeVectors edgeVectors, QVector<double> Vs)
@@ -60,7 +60,7 @@ QVector<double> MeshQualityPredict::get_Condition(EdgeVectors edgeVectors, QVect
 
 QVector<double> MeshQualityPredict::get_EdgeRatio(QVector<double> Lmaxs, QVector<double> Lmins)
 {
-    return forEachPair(Lmaxs, Lmins, Tetrahedron::edgeRatio);
+    return forEachPair(Lmaxs, Lmins, Tetrahedron::edgeRatio<double>);
 }
 
 QVector<double> MeshQualityPredict::get_Jacobian(EdgeVectors edgeVectors)
@@ -71,7 +71,7 @@ QVector<double> MeshQualityPredict::get_Jacobian(EdgeVectors edgeVectors)
 
 QVector<double> MeshQualityPredict::get_RadiusRatio(QVector<double> Rs, QVector<double> rs)
 {
-    return forEachPair(Rs, rs, Tetrahedron::radiusRatio);
+    return forEachPair(Rs, rs, Tetrahedron::radiusRatio<double>);
 }
 
 QVector<double> MeshQualityPredict::get_RelativeSizeSquared(QVector<double> Vs)
