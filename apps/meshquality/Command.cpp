@@ -3,6 +3,8 @@
 
 #include <meshquality/Command.h>
 
+#include <meshquality/CheckCommand.h>
+#include <meshquality/CompareCommand.h>
 #include <meshquality/Console.h>
 #include <meshquality/PredictCommand.h>
 #include <meshquality/ReportCommand.h>
@@ -22,13 +24,17 @@ const char* const helpText = R"(Quality of tetrahedral meshes in MSH 2 ASCII.
       --histogram METRIC  how the values of a metric are spread
       --by-region         the same for each physical group
       --model FILE        another model than ../mesher/mesh.onnx beside the program
+  meshquality check --profile FILE MESH...
+      One line a mesh: pass, warn or fail against the thresholds of a profile.
+  meshquality compare [--model FILE] A B
+      Two meshes side by side, with what has improved and what has worsened.
   meshquality predict
       Scores ../temp/mesh.msh beside the program, as an application does, and
       prints the history of the last ten scores, oldest first.
   meshquality --help
   meshquality --version
 
-Exit codes: 0 ok, 2 wrong call, 3 a mesh cannot be read, 4 the model cannot be used.
+Exit codes: 0 ok, 1 a mesh fails its check, 2 wrong call, 3 a mesh cannot be read, 4 the model cannot be used.
 )";
 
 } // namespace
@@ -47,6 +53,12 @@ ExitCode runCommand(const QStringList& arguments)
     }
     if (command == QLatin1String("report")) {
         return runReport(rest);
+    }
+    if (command == QLatin1String("check")) {
+        return runCheck(rest);
+    }
+    if (command == QLatin1String("compare")) {
+        return runCompare(rest);
     }
     if (command == QLatin1String("predict")) {
         return runPredict(rest);

@@ -9,6 +9,8 @@ namespace MeshQuality {
 enum ExitCode : int
 {
     Success = 0,
+    /// At least one mesh fails a threshold.
+    ThresholdFailed = 1,
     /// The call is wrong, or a result cannot be written where it should go.
     UsageError = 2,
     /// At least one mesh cannot be read.

@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <meshquality/CheckCommand.h>
+
+#include <meshquality/Console.h>
+#include <meshquality/NumberText.h>
+#include <meshquality/Profile.h>
+
+#include <QCommandLineParser>
+
+namespace MeshQuality {
+
+using DataManager::MeshQualityReport;
+
+namespace {
+
+enum class Verdict : int
+{
+    Pass,
+    Warn,
+    Fail
+};
+
+/// What a threshold finds in a mesh.
+struct Finding
+{
+    Verdict verdict;
+    QString text;
+};
+
+Finding check(const MeshQualityReport& report, const Threshold& threshold)
+{
+    int failing = 0;
+    for (const double value : report.values(threshold.metric)) {
+        // No number is neither.
+        failing += value >= threshold.minimum && value <= threshold.maximum ? 0 : 1;
+    }
+    const double percent = 100.0 * failing / report.elementCount();
+    const Verdict verdict = failing == 0                          ? Verdict::Pass
+                            : percent <= threshold.allowedPercent ? Verdict::Warn
+                                                                  : Verdict::Fail;
+    return {verdict, QStringLiteral("%1 %2 elements (%3 %)")
+                         .arg(MeshQualityReport::metricName(threshold.metric), QString::number(failing),
+                              QString::fromLatin1(sixDigits(percent)))};
+}
+
+QString word(Verdict verdict)
+{
+    return verdict == Verdict::Fail   ? QStringLiteral("fail")
+           : verdict == Verdict::Warn ? QStringLiteral("warn")
+                                      : QStringLiteral("pass");
+}
+
+ExitCode checkMesh(const QString& file, const Profile& profile)
+{
+    MeshQualityReport report;
+    if (!report.measure(file)) {
+        Console::printError(file, report.problemText());
+        return UnreadableInput;
+    }
+    Verdict worst = Verdict::Pass;
+    QStringList remarks;
+    for (const Threshold& threshold : profile.thresholds) {
+        const Finding finding = check(report, threshold);
+        worst = qMax(worst, finding.verdict);
+        if (finding.verdict != Verdict::Pass) {
+            remarks.append(word(finding.verdict) + QLatin1Char(' ') + finding.text);
+        }
+    }
+    const QString reasons = remarks.isEmpty() ? QString() : QStringLiteral(": ") + remarks.join(QStringLiteral(", "));
+    Console::print(word(worst) + QLatin1Char(' ') + file + reasons + QLatin1Char('\n'));
+    return worst == Verdict::Fail ? ThresholdFailed : Success;
+}
+
+} // namespace
+
+ExitCode runCheck(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.addOption({QStringLiteral("profile"), QString(), QStringLiteral("FILE")});
+    if (!parser.parse(arguments)) {
+        Console::printUsageError(parser.errorText());
+        return UsageError;
+    }
+    const QString path = parser.value(QStringLiteral("profile"));
+    if (path.isEmpty() || parser.positionalArguments().isEmpty()) {
+        Console::printUsageError(path.isEmpty() ? QStringLiteral("check needs a profile")
+                                                : QStringLiteral("no mesh is given"));
+        return UsageError;
+    }
+    Profile profile;
+    QString problem;
+    if (!Profile::read(path, profile, problem)) {
+        Console::printError(path, problem);
+        return UnreadableInput;
+    }
+    ExitCode exitCode = Success;
+    for (const QString& file : parser.positionalArguments()) {
+        exitCode = qMax(exitCode, checkMesh(file, profile));
+    }
+    return exitCode;
+}
+
+} // namespace MeshQuality

@@ -1,0 +1,156 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <meshquality/CompareCommand.h>
+
+#include <meshquality/Console.h>
+#include <meshquality/ModelScore.h>
+#include <meshquality/NumberText.h>
+#include <meshquality/ScoredMesh.h>
+
+#include <QCommandLineParser>
+
+#include <cmath>
+
+namespace MeshQuality {
+
+using DataManager::MeshQualityReport;
+using Metric = MeshQualityReport::Metric;
+
+namespace {
+
+QString column(double value)
+{
+    return QString::fromLatin1(sixDigits(value)).rightJustified(13);
+}
+
+enum class Rating : int
+{
+    NoneKnown,
+    Same,
+    Improved,
+    Worsened
+};
+
+Rating rating(double before, double after, bool isWorseWhenLarger)
+{
+    if (std::isnan(before) || std::isnan(after)) {
+        return Rating::NoneKnown;
+    }
+    if (before == after) {
+        return Rating::Same;
+    }
+    return (after > before) == isWorseWhenLarger ? Rating::Worsened : Rating::Improved;
+}
+
+QString word(Rating rating)
+{
+    switch (rating) {
+    case Rating::Same:
+        return QStringLiteral("same");
+    case Rating::Improved:
+        return QStringLiteral("improved");
+    case Rating::Worsened:
+        return QStringLiteral("worsened");
+    case Rating::NoneKnown:
+        break;
+    }
+    return QStringLiteral("unknown");
+}
+
+QString line(const QString& name, double before, double after, const QString& verdict)
+{
+    return QStringLiteral("  ") + name.leftJustified(28) + column(before) + column(after) + QStringLiteral("  ") +
+           verdict + QLatin1Char('\n');
+}
+
+/// The size of elements is no quality, so only the other metrics are rated.
+bool isRated(Metric metric)
+{
+    return metric != Metric::Volume && metric != Metric::Jacobian;
+}
+
+QString metricLines(Metric metric, const ScoredMesh& a, const ScoredMesh& b)
+{
+    const std::size_t place = static_cast<std::size_t>(metric);
+    const MeshQualityReport::Summary before = a.report.summary(metric);
+    const MeshQualityReport::Summary after = b.report.summary(metric);
+    const bool isWorseWhenLarger = MeshQualityReport::isWorseWhenLarger(metric);
+    const auto rated = [&](const char* figure, double valueOfA, double valueOfB) {
+        const QString verdict = isRated(metric) ? word(rating(valueOfA, valueOfB, isWorseWhenLarger)) : QString();
+        return line(MeshQualityReport::metricName(metric) + QLatin1Char(' ') + QString::fromLatin1(figure), valueOfA,
+                    valueOfB, verdict);
+    };
+    const QString worstName = isWorseWhenLarger ? QStringLiteral("95 %") : QStringLiteral("5 %");
+    return rated("mean", static_cast<double>(a.report.features()[place]),
+                 static_cast<double>(b.report.features()[place])) +
+           rated("median", before.median, after.median) +
+           rated(qPrintable(worstName), isWorseWhenLarger ? before.percentile95 : before.percentile5,
+                 isWorseWhenLarger ? after.percentile95 : after.percentile5) +
+           rated(isWorseWhenLarger ? "maximum" : "minimum", isWorseWhenLarger ? before.maximum : before.minimum,
+                 isWorseWhenLarger ? after.maximum : after.minimum);
+}
+
+QString comparison(const ScoredMesh& a, const ScoredMesh& b)
+{
+    QString text = QStringLiteral("  A: %1\n  B: %2\n").arg(a.file).arg(b.file);
+    text += QStringLiteral("  ") + QString(28, QLatin1Char(' ')) + QStringLiteral("A").rightJustified(13) +
+            QStringLiteral("B").rightJustified(13) + QLatin1Char('\n');
+    text += line(QStringLiteral("nodes"), static_cast<double>(a.report.nodeCount()),
+                 static_cast<double>(b.report.nodeCount()), QString());
+    text += line(QStringLiteral("tetrahedra"), a.report.elementCount(), b.report.elementCount(), QString());
+    const auto bad = [&text](const QString& name, int before, int after) {
+        text += line(name, before, after, word(rating(before, after, true)));
+    };
+    bad(QStringLiteral("inverted"), a.report.invertedCount(), b.report.invertedCount());
+    bad(QStringLiteral("flat"), a.report.flatCount(), b.report.flatCount());
+    for (int i = 0; i < MeshQualityReport::metricCount; ++i) {
+        text += metricLines(static_cast<Metric>(i), a, b);
+    }
+    const double before = static_cast<double>(a.score);
+    const double after = static_cast<double>(b.score);
+    return text + line(QStringLiteral("score"), before, after, word(rating(before, after, false)));
+}
+
+ExitCode measure(const QString& file, ModelScore& model, const QString& modelFile, ScoredMesh& mesh)
+{
+    mesh.file = file;
+    if (!mesh.report.measure(file)) {
+        Console::printError(file, mesh.report.problemText());
+        return UnreadableInput;
+    }
+    if (!model.score(mesh.report.features(), mesh.score)) {
+        Console::printError(modelFile, model.errorText());
+        return ModelTrouble;
+    }
+    return Success;
+}
+
+} // namespace
+
+ExitCode runCompare(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.addOption({QStringLiteral("model"), QString(), QStringLiteral("FILE"), ModelScore::defaultModel()});
+    const bool isParsed = parser.parse(arguments);
+    if (!isParsed || parser.positionalArguments().size() != 2) {
+        Console::printUsageError(isParsed ? QStringLiteral("compare needs two meshes") : parser.errorText());
+        return UsageError;
+    }
+    const QString modelFile = parser.value(QStringLiteral("model"));
+    ModelScore model;
+    if (!model.load(modelFile)) {
+        Console::printError(modelFile, model.errorText());
+        return ModelTrouble;
+    }
+    ScoredMesh a;
+    ScoredMesh b;
+    const ExitCode ofA = measure(parser.positionalArguments().at(0), model, modelFile, a);
+    const ExitCode ofB = measure(parser.positionalArguments().at(1), model, modelFile, b);
+    if (qMax(ofA, ofB) == Success) {
+        Console::print(comparison(a, b));
+    }
+    return qMax(ofA, ofB);
+}
+
+} // namespace MeshQuality

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <meshquality/Profile.h>
+
+#include <basemodule/GlobalHelper.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <limits>
+
+namespace MeshQuality {
+
+namespace {
+
+constexpr double unbounded = std::numeric_limits<double>::infinity();
+
+/// A number member, or what stands for a missing one; false when it is something else.
+bool readNumber(const QJsonObject& object, const char* name, double missing, double& number)
+{
+    const QJsonValue value = object.value(QLatin1String(name));
+    number = value.toDouble(missing);
+    return value.isUndefined() || value.isDouble();
+}
+
+QString readThreshold(const QJsonObject& object, Threshold& threshold)
+{
+    const QString name = object.value(QLatin1String("metric")).toString();
+    if (!DataManager::MeshQualityReport::metricOfName(name, threshold.metric)) {
+        return QStringLiteral("there is no metric '%1'").arg(name);
+    }
+    const bool areNumbers = readNumber(object, "minimum", -unbounded, threshold.minimum) &&
+                            readNumber(object, "maximum", unbounded, threshold.maximum) &&
+                            readNumber(object, "allowedPercent", 0.0, threshold.allowedPercent);
+    if (!areNumbers || (threshold.minimum == -unbounded && threshold.maximum == unbounded)) {
+        return QStringLiteral("%1 needs a number as minimum or maximum").arg(name);
+    }
+    threshold.source = object.value(QLatin1String("source")).toString();
+    return QString();
+}
+
+} // namespace
+
+bool Profile::read(const QString& path, Profile& profile, QString& problem)
+{
+    QByteArray content;
+    if (!BaseModule::GlobalHelper::readFile(path, content)) {
+        problem = QStringLiteral("cannot be read");
+        return false;
+    }
+    QJsonParseError error{};
+    const QJsonDocument document = QJsonDocument::fromJson(content, &error);
+    const QJsonArray thresholds = document.object().value(QLatin1String("thresholds")).toArray();
+    if (error.error != QJsonParseError::NoError) {
+        problem = QStringLiteral("%1 at byte %2").arg(error.errorString()).arg(error.offset);
+    } else if (thresholds.isEmpty()) {
+        problem = QStringLiteral("has no list of thresholds");
+    }
+    for (const QJsonValue& value : thresholds) {
+        Threshold threshold{};
+        problem = problem.isEmpty() ? readThreshold(value.toObject(), threshold) : problem;
+        profile.thresholds.push_back(threshold);
+    }
+    return problem.isEmpty();
+}
+
+} // namespace MeshQuality
