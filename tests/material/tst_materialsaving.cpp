@@ -94,6 +94,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void survivesDeathAtEverySystemCall();
+    void survivesDeathAtAnyTime_data();
     void survivesDeathAtAnyTime();
     void loadsWhileAnotherProcessSaves();
     void survivesTheFileSizeLimit_data();
@@ -178,13 +179,22 @@ void TestMaterialSaving::survivesDeathAtEverySystemCall()
     QVERIFY(newCount > 0);
 }
 
-void TestMaterialSaving::survivesDeathAtAnyTime()
+void TestMaterialSaving::survivesDeathAtAnyTime_data()
 {
 #ifdef DATAMANAGER_EXHAUSTIVE_TESTS
-    constexpr int kills = 1000;
+    constexpr int rounds = 40;
 #else
-    constexpr int kills = 25;
+    constexpr int rounds = 1;
 #endif
+    QTest::addColumn<int>("kills");
+    for (int round = 1; round <= rounds; ++round) {
+        QTest::addRow("round %d", round) << 25;
+    }
+}
+
+void TestMaterialSaving::survivesDeathAtAnyTime()
+{
+    QFETCH(int, kills);
     createLibrary(20000);
     auto& random = *QRandomGenerator::global();
     QSet<QString> states;

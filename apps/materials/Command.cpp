@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <materials/Command.h>
+
+#include <materials/CheckCommand.h>
+#include <materials/Console.h>
+#include <materials/ExportCommand.h>
+#include <materials/ImportCommand.h>
+#include <materials/LibraryLog.h>
+#include <materials/ListCommand.h>
+#include <materials/Options.h>
+
+#include <QHash>
+
+namespace Materials {
+
+namespace {
+
+const char* const helpText = R"(Material libraries.
+
+  materials list   [--library L] [--json]
+      The materials with their identifiers, deleted ones marked.
+  materials show   [--library L] [--json] ID|NAME
+      One material with all its values.
+  materials export [--library L] [--format csv|json] [--output FILE]
+      The live materials; CSV unless FILE ends in .json.
+  materials import [--library L] [--update] [--dry-run] [--json] SOURCE [ID|NAME...]
+      Compares the materials of SOURCE (a library as below, or a CSV or JSON
+      file), all or those named, with the library: new, same, changed, refused.
+      Then copies the new ones into it, and with --update the changed ones too.
+  materials check  [--library L] [--json] [FILE]
+      Names every fault of a library file with its place.
+
+  --library L   software (ConfigFiles/MaterialLibrary.json beside the program,
+                the default) or project:DIR (MaterialLibrary.json in DIR)
+  --plain       project libraries are plain JSON, not enciphered
+  --dry-run     only compare
+
+Exit codes: 0 ok, 1 faults found or a material is missing, 2 wrong call,
+3 a file cannot be read or written.
+)";
+
+} // namespace
+
+ExitCode runCommand(const QStringList& arguments)
+{
+    static const QHash<QString, ExitCode (*)(const Options&)> commands = {{QStringLiteral("list"), runList},
+                                                                          {QStringLiteral("show"), runShow},
+                                                                          {QStringLiteral("export"), runExport},
+                                                                          {QStringLiteral("import"), runImport},
+                                                                          {QStringLiteral("check"), runCheck}};
+    const Options options = parseOptions(arguments);
+    if (options.isHelp) {
+        Console::print(QString::fromUtf8(helpText));
+        return Success;
+    }
+    if (!options.fault.isEmpty() || !commands.contains(options.command)) {
+        const QString unknown = QStringLiteral("unknown command '%1'").arg(options.command);
+        Console::printError((options.fault.isEmpty() ? unknown : options.fault) +
+                            QStringLiteral("; see materials --help"));
+        return UsageError;
+    }
+    startLibraryLog();
+    return commands.value(options.command)(options);
+}
+
+} // namespace Materials

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#pragma once
+
+#include <materials/Library.h>
+
+namespace Materials {
+
+/// How a material of one library stands against another library.
+struct Comparison
+{
+    enum State : int
+    {
+        New,     ///< no live material there has one of its names
+        Same,    ///< there with the same names and properties
+        Changed, ///< there with one of its names and something else different
+        Refused  ///< it has a name that is reserved
+    };
+    State state;
+    Material source;
+    Material target; ///< the material of the other library; null for new and refused ones
+
+    QString word() const;
+};
+
+/// One comparison a live source material, in the order of `sources`.
+QList<Comparison> compareMaterials(const QList<Material>& sources, const QList<Material>& targets);
+
+} // namespace Materials

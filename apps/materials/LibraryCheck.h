@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#pragma once
+
+#include <QJsonObject>
+#include <QString>
+#include <QVector>
+
+namespace Materials {
+
+/// Something in a library file that the manager passes over, changes or stumbles over.
+struct Fault
+{
+    QString place; ///< a path from the root, such as "materialList[3].property2.components"
+    QString what;
+};
+
+/// Every fault of a library, in the order of the file. `root` holds the list "materialList".
+QVector<Fault> checkLibrary(const QJsonObject& root);
+
+} // namespace Materials

@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <materials/Command.h>
+
+#include <QCoreApplication>
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    return Materials::runCommand(QCoreApplication::arguments());
+}
