@@ -7,11 +7,11 @@
 #include <materials/Library.h>
 #include <materials/MaterialJson.h>
 #include <materials/MaterialMembers.h>
+#include <materials/NumberText.h>
 #include <materials/Options.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QLocale>
 
 namespace Materials {
 
@@ -42,7 +42,7 @@ QString valuesOf(const QList<double>& components)
 {
     QString text;
     for (int i = 0; i < components.size(); ++i) {
-        text += QString::number(components.at(i), 'g', QLocale::FloatingPointShortest);
+        text += shortestText(components.at(i));
         text += i % 3 == 2 && i + 1 < components.size() ? QStringLiteral(" | ") : QStringLiteral(" ");
     }
     return text.trimmed();

@@ -5,10 +5,9 @@
 
 #include <materials/CsvText.h>
 #include <materials/MaterialMembers.h>
+#include <materials/NumberText.h>
 
 #include <datamodel/MaterialData.h>
-
-#include <QLocale>
 
 namespace Materials {
 
@@ -38,7 +37,7 @@ QStringList cellsOf(const DataModel::MaterialData& material, int number)
     const DataModel::MaterialPropertyData& property = *(material.*propertyMembers.at(number - 1));
     cells += {property.label, QString::number(property.kind)};
     for (const double component : property.components) {
-        cells.append(QString::number(component, 'g', QLocale::FloatingPointShortest));
+        cells.append(shortestText(component));
     }
     cells += {property.remark, property.flag ? QStringLiteral("1") : QStringLiteral("0")};
     return cells;
