@@ -62,6 +62,7 @@ PairList removeByIndex(RecordList& items, RecordPool& pool, SelectModel model, c
     AcceptedPairs removed(pairs);
     MatchIndex index(items, model, MatchIndex::Order::FirstToLast);
     for (int i = 0; i < pairs.size(); ++i) {
+        index.expect(pairs, i);
         const int position = index.find(pairs.at(i).first, pairs.at(i).second);
         if (position < 0) {
             removed.reject(i);
@@ -128,6 +129,9 @@ void SelectedDataManager::addSelectedTargetList(SelectModel model, QList<QPair<i
         index.emplace(m_selectedDataList, model, MatchIndex::Order::LastToFirst, targetList.size());
     }
     for (int i = 0; i < targetList.size(); ++i) {
+        if (index) {
+            index->expect(targetList, i);
+        }
         const auto [firstID, secondID] = targetList.at(i);
         if (index ? index->find(firstID, secondID) >= 0 : hasSameSelectedData(model, firstID, secondID)) {
             added.reject(i);

@@ -13,14 +13,15 @@ namespace DataManager {
 struct MatchIndex::Family
 {
     explicit Family(int capacity)
-        : heads(static_cast<std::size_t>(capacity)), next(static_cast<std::size_t>(capacity), -1)
+        : heads(static_cast<std::size_t>(capacity)), next(new int[static_cast<std::size_t>(capacity)])
     {
     }
 
     int after(int position) const { return next[static_cast<std::size_t>(position)]; }
 
     KeyTable heads;
-    std::vector<int> next;
+    /// Set for the positions that are filed, and read for no other.
+    std::unique_ptr<int[]> next;
 };
 
 MatchIndex::MatchIndex(const RecordList& items, BaseModule::SelectModel model, Order order, int additionCount)
@@ -43,6 +44,15 @@ int MatchIndex::find(int firstID, int secondID)
         *head = chains.after(*head);
     }
     return *head;
+}
+
+void MatchIndex::expect(const PairList& pairs, int position) const
+{
+    const Family* const chains = m_families[Exact].get();
+    if (chains != nullptr && position + lookahead < pairs.size()) {
+        const QPair<int, int>& later = pairs.at(position + lookahead);
+        chains->heads.prefetch(keyOf(Exact, later.first, later.second));
+    }
 }
 
 void MatchIndex::append()
@@ -85,8 +95,16 @@ MatchIndex::Family& MatchIndex::family(Shape shape)
         chains = std::make_unique<Family>(m_capacity);
         // The item filed last becomes the head of its chain.
         const int size = m_items.size();
+        const auto positionAt = [&](int step) { return m_order == Order::LastToFirst ? step : size - 1 - step; };
         for (int step = 0; step < size; ++step) {
-            file(shape, *chains, m_order == Order::LastToFirst ? step : size - 1 - step);
+            if (step + 2 * lookahead < size) {
+                prefetchMemory(m_items.at(positionAt(step + 2 * lookahead)));
+            }
+            if (const auto* const later =
+                    step + lookahead < size ? m_items.at(positionAt(step + lookahead)) : nullptr) {
+                chains->heads.prefetch(keyOf(shape, later->getFirstID(), later->getSecondID()));
+            }
+            file(shape, *chains, positionAt(step));
         }
     }
     return *chains;

@@ -7,7 +7,6 @@
 
 #include <array>
 #include <memory>
-#include <vector>
 
 namespace DataManager {
 
@@ -29,6 +28,9 @@ public:
 
     /// The position of the matching item that comes first in the index's order; -1 when there is none.
     int find(int firstID, int secondID);
+    /// The call is about to ask for the pair at `position`, and then for the following ones. Fetches what later ones
+    /// will need. Changes nothing.
+    void expect(const PairList& pairs, int position) const;
     /// The last item of the list is new. Only for an index from last to first.
     void append();
     /// The pairs of the items whose first identifier equals the given one, without wildcards, in the index's order.

@@ -3,6 +3,8 @@
 
 #include <datamanager/selection/private/RecordPool.h>
 
+#include <datamanager/selection/private/Prefetch.h>
+
 #include <datamodel/SelectedDataBase.h>
 
 #include <algorithm>
@@ -38,6 +40,9 @@ DataModel::SelectedDataBase* takeRecord(RecordPool& pool)
 {
     if (pool.empty()) {
         return new DataModel::SelectedDataBase;
+    }
+    if (pool.size() > lookahead) {
+        prefetchMemory(pool[lookahead]);
     }
     DataModel::SelectedDataBase* const record = pool.front();
     const bool staysInBlock = pool.size() > 1 && &pool[1] == &pool[0] + 1;
