@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <selection/AllocationCount.h>
+#include <selection/StoreCase.h>
+
+#include <cstdlib>
+
+class tst_SelectionAllocations : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void countsEveryAllocator();
+    void clicksAllocateNothing_data();
+    void clicksAllocateNothing();
+    void shortListsAllocateNothing_data();
+    void shortListsAllocateNothing();
+};
+
+namespace {
+
+/// Allocations of `count` runs of a script after some that warm up.
+long allocationsOf(int count, const std::function<void()>& script)
+{
+    for (int i = 0; i < 10; ++i) {
+        script();
+    }
+    const long before = allocationCount();
+    for (int i = 0; i < count; ++i) {
+        script();
+    }
+    return allocationCount() - before;
+}
+
+} // namespace
+
+void tst_SelectionAllocations::countsEveryAllocator()
+{
+    // Written to a volatile, so that the compiler cannot leave the pair of calls out.
+    void* volatile memory = nullptr;
+    QCOMPARE(allocationsOf(1, [&] { std::free(memory = std::malloc(10)); }), 1L);
+    QCOMPARE(allocationsOf(1, [&] { std::free(memory = std::calloc(1, 10)); }), 1L);
+    QCOMPARE(allocationsOf(1, [] { delete new DataModel::SelectedDataBase; }), 2L);
+    QVERIFY(allocationsOf(1, [] { Pairs{{1, 2}}; }) >= 1);
+}
+
+void tst_SelectionAllocations::clicksAllocateNothing_data()
+{
+    QTest::addColumn<int>("heldCount");
+    QTest::addColumn<int>("freeCount");
+    QTest::newRow("empty selection, first pool") << 0 << 20;
+    QTest::newRow("two free records") << 18 << 2;
+    // The pool's blocks hold 64 pointers, so some of these stand at a block's end.
+    for (int held = 60; held <= 68; ++held) {
+        QTest::addRow("%d items", held) << held << 200 - held;
+    }
+    QTest::newRow("large pool") << 10 << 50000;
+}
+
+void tst_SelectionAllocations::clicksAllocateNothing()
+{
+    QFETCH(int, heldCount);
+    QFETCH(int, freeCount);
+    const OwnStore store;
+    for (int i = 0; i < heldCount + freeCount; ++i) {
+        store->addSelectData(SelectModel(2), i, 0);
+    }
+    store->deleteSelectedData(SelectModel(2));
+    for (int i = 0; i < heldCount; ++i) {
+        store->addSelectData(SelectModel(2), i, 0);
+    }
+    QCOMPARE(int(store->m_dataPool.size()), freeCount);
+    QCOMPARE(allocationsOf(1000, [&store] { store->clickViewObject(5, 7); }), 0L);
+}
+
+void tst_SelectionAllocations::shortListsAllocateNothing_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::newRow("one pair") << 1;
+    QTest::newRow("three pairs") << 3;
+    QTest::newRow("eight pairs") << 8;
+}
+
+void tst_SelectionAllocations::shortListsAllocateNothing()
+{
+    QFETCH(int, count);
+    const OwnStore store;
+    Pairs pairs;
+    for (int i = 0; i < count; ++i) {
+        pairs.append({i, 0});
+    }
+    QCOMPARE(allocationsOf(1000,
+                           [&] {
+                               store->addSelectedTargetList(SelectModel(2), pairs);
+                               store->removeSelectedTargetList(SelectModel(2), pairs);
+                           }),
+             0L);
+    QCOMPARE(allocationsOf(1000, [&] { store->addSelectedTargetList(SelectModel(2), {}); }), 0L);
+}
+
+QTEST_GUILESS_MAIN(tst_SelectionAllocations)
+#include "tst_selectionallocations.moc"

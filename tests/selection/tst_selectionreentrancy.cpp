@@ -1,0 +1,179 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <selection/StoreCase.h>
+
+#include <QSet>
+
+/// What happens when a listener calls back, step by step; tst_selectionagainstliteral does it at random.
+class tst_SelectionReentrancy : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void callsBack_data();
+    void callsBack();
+    void clearingAnExhaustedPoolOwnsEachRecordOnce();
+    void aPinningListenerDoesNotKeepItBusy();
+};
+
+namespace {
+
+const SelectModel model2 = SelectModel(2);
+
+Script clearing()
+{
+    return [](SelectedDataManager& store) { store.clearAllSelectedTarget(); };
+}
+
+} // namespace
+
+void tst_SelectionReentrancy::callsBack_data()
+{
+    addStoreColumns();
+    // The answer of a listener to the first news that (1,0) is hidden.
+    QTest::addColumn<Script>("answer");
+    const Script three = holding({{2, {1, 0}}, {2, {2, 0}}, {7, {3, 0}}});
+
+    QTest::newRow("clearing, selected again")
+        << three << clearing()
+        << lines({"updateViewObjectState 2 (1,0) 0 | 2:-1,-1 2:2,0 7:3,0",
+                  "setViewObjectListState 2 [(1,0)] 1 | 2:2,0 7:3,0 2:1,0",
+                  "updateGeomrtryActorTransparency 3 | 2:2,0 7:3,0 2:1,0",
+                  "updateViewObjectState 2 (1,0) 1 | 2:2,0 7:3,0 2:1,0",
+                  "refreshActionOnSelectDataChanged | 2:2,0 7:3,0 2:1,0",
+                  "updateViewObjectState 2 (2,0) 0 | 2:-1,-1 7:3,0 2:1,0",
+                  "updateViewObjectState 7 (3,0) 0 | 2:-1,-1 7:-1,-1 2:1,0",
+                  "updateGeomrtryActorTransparency 1 | 2:1,0", "clearAllHighLight | 2:1,0",
+                  "refreshActionOnSelectDataChanged | 2:1,0"})
+        << QStringLiteral("2:1,0") << Script([](SelectedDataManager& store) {
+               store.addSelectedTargetList(model2, {{1, 0}});
+           });
+    QTest::newRow("clearing, an item removed that is not cleared yet")
+        << three << clearing()
+        << lines({"updateViewObjectState 2 (1,0) 0 | 2:-1,-1 2:2,0 7:3,0",
+                  "setViewObjectListState 2 [(-1,-1)] 0 | 7:3,0", "updateGeomrtryActorTransparency 1 | 7:3,0",
+                  "updateViewObjectState 2 (-1,-1) 0 | 7:3,0", "refreshActionOnSelectDataChanged | 7:3,0",
+                  "updateViewObjectState 7 (3,0) 0 | 7:-1,-1", "updateGeomrtryActorTransparency 0 | ",
+                  "clearAllHighLight | ", "refreshActionOnSelectDataChanged | "})
+        << QString() << Script([](SelectedDataManager& store) {
+               store.removeSelectedTargetList(model2, {{-1, -1}});
+           });
+    QTest::newRow("clearing, cleared") << three << clearing()
+                                       << lines({"updateViewObjectState 2 (1,0) 0 | 2:-1,-1 2:2,0 7:3,0",
+                                                 "updateViewObjectState 2 (2,0) 0 | 2:-1,-1 7:3,0",
+                                                 "updateViewObjectState 7 (3,0) 0 | 2:-1,-1 7:-1,-1",
+                                                 "updateGeomrtryActorTransparency 0 | ", "clearAllHighLight | ",
+                                                 "refreshActionOnSelectDataChanged | ",
+                                                 "updateGeomrtryActorTransparency 0 | ", "clearAllHighLight | ",
+                                                 "refreshActionOnSelectDataChanged | "})
+                                       << QString() << clearing();
+    QTest::newRow("clearing, switched")
+        << three << clearing()
+        << lines({"updateViewObjectState 2 (1,0) 0 | 2:-1,-1 2:2,0 7:3,0", "setViewObjectListState 2 [(2,0)] 0 | 7:3,0",
+                  "updateGeomrtryActorTransparency 1 | 7:3,0", "updateViewObjectState 2 (2,0) 0 | 7:3,0",
+                  "refreshActionOnSelectDataChanged | 7:3,0", "updateInteraction | 7:3,0",
+                  "updateMenuActionState | 7:3,0", "updateViewObjectState 7 (3,0) 0 | 7:-1,-1",
+                  "updateGeomrtryActorTransparency 0 | ", "clearAllHighLight | ",
+                  "refreshActionOnSelectDataChanged | "})
+        << QString() << Script([](SelectedDataManager& store) { store.setSelectModelInMainWindow(SelectModel(7)); });
+    QTest::newRow("clearing, the list read only")
+        << three << clearing()
+        << lines({"updateViewObjectState 2 (1,0) 0 | 2:-1,-1 2:2,0 7:3,0",
+                  "updateViewObjectState 2 (2,0) 0 | 2:-1,-1 2:-1,-1 7:3,0",
+                  "updateViewObjectState 7 (3,0) 0 | 2:-1,-1 2:-1,-1 7:-1,-1", "updateGeomrtryActorTransparency 0 | ",
+                  "clearAllHighLight | ", "refreshActionOnSelectDataChanged | "})
+        << QString() << Script([](SelectedDataManager& store) { QCOMPARE(store.getSelectedDataList().size(), 3); });
+    QTest::newRow("switching, a later group deleted")
+        << three << Script([](SelectedDataManager& store) { store.setSelectModelInMainWindow(SelectModel(9)); })
+        << lines({"setViewObjectListState 2 [(1,0) (2,0)] 0 | 7:3,0", "updateGeomrtryActorTransparency 1 | 7:3,0",
+                  "updateViewObjectState 2 (1,0) 0 | 7:3,0", "updateViewObjectState 2 (2,0) 0 | ",
+                  "refreshActionOnSelectDataChanged | ", "refreshActionOnSelectDataChanged | ", "updateInteraction | ",
+                  "updateMenuActionState | "})
+        << QString() << Script([](SelectedDataManager& store) { store.deleteSelectedData(SelectModel(7)); });
+    QTest::newRow("removing, selected again")
+        << three << Script([](SelectedDataManager& store) {
+               store.removeSelectedTargetList(model2, {{1, 0}, {2, 0}});
+           })
+        << lines({"setViewObjectListState 2 [(1,0) (2,0)] 0 | 7:3,0", "updateGeomrtryActorTransparency 1 | 7:3,0",
+                  "updateViewObjectState 2 (1,0) 0 | 7:3,0", "setViewObjectListState 2 [(2,0)] 1 | 7:3,0 2:2,0",
+                  "updateGeomrtryActorTransparency 2 | 7:3,0 2:2,0", "updateViewObjectState 2 (2,0) 1 | 7:3,0 2:2,0",
+                  "refreshActionOnSelectDataChanged | 7:3,0 2:2,0", "updateViewObjectState 2 (2,0) 0 | 7:3,0 2:2,0",
+                  "refreshActionOnSelectDataChanged | 7:3,0 2:2,0"})
+        << QStringLiteral("7:3,0 2:2,0") << Script([](SelectedDataManager& store) {
+               store.addSelectedTargetList(model2, {{2, 0}});
+           });
+}
+
+void tst_SelectionReentrancy::callsBack()
+{
+    QFETCH(Script, before);
+    QFETCH(Script, call);
+    QFETCH(QStringList, signals_);
+    QFETCH(QString, items);
+    QFETCH(Script, answer);
+    const OwnStore store;
+    before(*store);
+    SignalLog log([&store] { return itemsOf(*store); });
+    QObject listener;
+    bool isAnswered = false;
+    connect(IBaseSignal::getInstance(), &IBaseSignal::signal_updateViewObjectState, &listener,
+            [&](int, int first, int, bool isShow) {
+                if (first == 1 && !isShow && !isAnswered) {
+                    isAnswered = true;
+                    answer(*store);
+                }
+            });
+    call(*store);
+    QVERIFY(isAnswered);
+    QCOMPARE(log.take(), signals_);
+    QCOMPARE(itemsOf(*store), items);
+    const QList<DataModel::SelectedDataBase*> owned =
+        store->getSelectedDataList() +
+        QList<DataModel::SelectedDataBase*>(store->m_dataPool.begin(), store->m_dataPool.end());
+    QCOMPARE(owned.size(), 20);
+    QCOMPARE(QSet<DataModel::SelectedDataBase*>(owned.begin(), owned.end()).size(), 20);
+}
+
+/// The only free records are those that the clearing itself returns while they are still in the list.
+void tst_SelectionReentrancy::clearingAnExhaustedPoolOwnsEachRecordOnce()
+{
+    const OwnStore store;
+    for (int i = 0; i < 20; ++i) {
+        store->addSelectData(model2, i, 0);
+    }
+    QVERIFY(store->m_dataPool.empty());
+    QObject listener;
+    int duplicates = 0;
+    connect(IBaseSignal::getInstance(), &IBaseSignal::signal_updateViewObjectState, &listener,
+            [&](int model, int first, int second, bool isShow) {
+                if (model == 2 && !isShow) {
+                    store->addSelectedTargetList(SelectModel(7), {{first, second}});
+                    const auto list = store->getSelectedDataList();
+                    duplicates += list.size() - QSet<DataModel::SelectedDataBase*>(list.begin(), list.end()).size();
+                }
+            });
+    store->clearAllSelectedTarget();
+    QCOMPARE(duplicates, 0);
+    QCOMPARE(store->getSelectedDataBySelectedModel(SelectModel(7)).size(), 20);
+    QCOMPARE(store->getDataCount() + int(store->m_dataPool.size()), 20);
+}
+
+/// A listener that selects an item again whenever it is deselected must not keep a clearing busy for ever.
+void tst_SelectionReentrancy::aPinningListenerDoesNotKeepItBusy()
+{
+    const OwnStore store;
+    holding({{2, {1, 0}}, {2, {2, 0}}, {2, {3, 0}}})(*store);
+    QObject listener;
+    connect(IBaseSignal::getInstance(), &IBaseSignal::signal_updateViewObjectState, &listener,
+            [&](int model, int first, int second, bool isShow) {
+                if (!isShow) {
+                    store->addSelectedTargetList(SelectModel(model), {{first, second}});
+                }
+            });
+    store->clearAllSelectedTarget();
+    QCOMPARE(itemsOf(*store), QStringLiteral("2:1,0 2:2,0 2:3,0"));
+}
+
+QTEST_GUILESS_MAIN(tst_SelectionReentrancy)
+#include "tst_selectionreentrancy.moc"
