@@ -17,10 +17,17 @@ long allocationCount()
     return count;
 }
 
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define __SANITIZE_ADDRESS__
+#endif
+#endif
+
 #if defined(__SANITIZE_ADDRESS__)
 
-// AddressSanitizer has its own allocator, and a hook in it. A growing realloc calls it, too.
-#include <sanitizer/allocator_interface.h>
+// AddressSanitizer has its own allocator, and a hook in it. GCC comes without the header that declares it.
+extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*onMalloc)(const volatile void*, std::size_t),
+                                                         void (*onFree)(const volatile void*));
 
 namespace {
 

@@ -137,6 +137,7 @@ public:
     QList<Record*> getSelectedDataList() const
     {
         QList<Record*> list;
+        list.reserve(getDataCount());
         for (const Item& item : m_items) {
             list.append(item.record);
         }

@@ -13,6 +13,12 @@ using Record = DataModel::SelectedDataBase;
 
 namespace {
 
+#ifdef DATAMANAGER_EXHAUSTIVE_TESTS
+constexpr int operationCount = 2000000;
+#else
+constexpr int operationCount = 500000;
+#endif
+
 /// Listens to every signal of the hub: notes it with what the store shows at that moment and, when allowed to, calls
 /// back into the store. All it does follows from one seed, so that it does the same to both stores.
 template <class Store>
@@ -114,7 +120,7 @@ private:
             }
         }
         noteAll({m_store.getDataCount(), m_store.getSelectModel(), int(sum >> 32), int(sum & 0xffffffffU)});
-        if (log.size() % 4 == 0) {
+        if (log.size() % 8 == 0) {
             noteQueries();
         }
     }
@@ -224,8 +230,8 @@ void tst_SelectionAgainstLiteral::agrees_data()
     QTest::addColumn<int>("longList");
     QTest::addColumn<int>("identifiers");
     QTest::addColumn<int>("wildcardPerMille");
-    QTest::newRow("listeners that only look") << false << 500000 << 2 << 12 << 4 << 150;
-    QTest::newRow("listeners that call back") << true << 500000 << 2 << 12 << 4 << 150;
+    QTest::newRow("listeners that only look") << false << operationCount << 2 << 12 << 4 << 150;
+    QTest::newRow("listeners that call back") << true << operationCount << 2 << 12 << 4 << 150;
     QTest::newRow("long lists") << false << 300 << 100 << 2500 << 1500 << 1;
     QTest::newRow("long lists, listeners that call back") << true << 60 << 20 << 600 << 400 << 2;
 }
