@@ -14,14 +14,17 @@ namespace {
 
 constexpr double none = std::numeric_limits<double>::quiet_NaN();
 
-/// Between the two nearest of the sorted values.
-double percentile(const std::vector<double>& sorted, double percent)
+/// Between the two nearest values in order. Reorders them, but needs not sort them.
+double percentile(std::vector<double>& values, double percent)
 {
-    const double place = percent / 100.0 * static_cast<double>(sorted.size() - 1);
-    const std::size_t below = static_cast<std::size_t>(place);
-    const std::size_t above = std::min(below + 1, sorted.size() - 1);
-    const double share = place - static_cast<double>(below);
-    return share == 0.0 ? sorted[below] : sorted[below] * (1.0 - share) + sorted[above] * share;
+    const double place = percent / 100.0 * static_cast<double>(values.size() - 1);
+    const auto below = values.begin() + static_cast<std::ptrdiff_t>(place);
+    const double share = place - std::floor(place);
+    std::nth_element(values.begin(), below, values.end());
+    if (share == 0.0) {
+        return *below;
+    }
+    return *below * (1.0 - share) + *std::min_element(below + 1, values.end()) * share;
 }
 
 double standardDeviation(const std::vector<double>& values, double mean)
@@ -51,14 +54,15 @@ MeshQualityReport::Summary summary(std::vector<double> values)
     }
     const double mean = std::accumulate(values.begin(), values.end(), 0.0) / static_cast<double>(values.size());
     const double deviation = standardDeviation(values, mean);
-    std::sort(values.begin(), values.end());
-    return {values.front(),
+    const auto [minimum, maximum] = std::minmax_element(values.begin(), values.end());
+    const std::pair<double, double> range(*minimum, *maximum);
+    return {range.first,
             percentile(values, 1.0),
             percentile(values, 5.0),
             percentile(values, 50.0),
             percentile(values, 95.0),
             percentile(values, 99.0),
-            values.back(),
+            range.second,
             mean,
             deviation,
             nonFinite};
