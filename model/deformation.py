@@ -43,6 +43,12 @@ def jitter(points, tetrahedra, amount, moves):
     return points
 
 
+def jitter_path(points, tetrahedra, amount, moves, shares):
+    """The same jitter at growing shares of its full length: every node goes straight on."""
+    whole = jitter(points, tetrahedra, amount, moves) - points
+    return [points + share * whole for share in shares]
+
+
 def shuffle_corners(tetrahedra, generator):
     """Lists each element's corners in another order of the same orientation."""
     orders = EVEN_ORDERS[generator.integers(len(EVEN_ORDERS), size=len(tetrahedra))]

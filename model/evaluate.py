@@ -10,11 +10,8 @@ from onnx import numpy_helper
 SHIPPED = pathlib.Path(__file__).resolve().parent / "mesh.onnx"
 
 OPERATIONS = {
-    "Gather": lambda x, i, axis: np.take(x, i, axis), "Max": np.maximum, "Min": np.minimum, "Log": np.log, "Abs": np.abs,
-    "Sub": np.subtract, "Mul": np.multiply, "Exp": np.exp, "Tanh": np.tanh, "MatMul": np.matmul,
-    "Gemm": lambda a, b, c: a @ b + c, "Sigmoid": lambda x: 1 / (1 + np.exp(-x)), "Greater": np.greater,
-    "ReduceMax": lambda x, axes, keepdims: x.max(axis=tuple(axes), keepdims=bool(keepdims)), "Where": np.where,
-    "IsNaN": np.isnan, "Cast": lambda x, to: x.astype(np.float32),
+    "Log": np.log, "Max": np.maximum, "Min": np.minimum, "Sub": np.subtract, "Abs": np.abs, "Exp": np.exp, "Mul": np.multiply,
+    "MatMul": np.matmul, "Gemm": lambda a, b, c: a @ b + c, "Tanh": np.tanh, "Sigmoid": lambda x: 1 / (1 + np.exp(-x)),
 }
 
 
@@ -25,8 +22,7 @@ def scores(features, path=SHIPPED):
     known[model.graph.input[0].name] = np.asarray(features, dtype=np.float32).reshape(-1, 11)
     with np.errstate(all="ignore"):
         for node in model.graph.node:
-            attributes = {a.name: onnx.helper.get_attribute_value(a) for a in node.attribute}
-            known[node.output[0]] = OPERATIONS[node.op_type](*(known[name] for name in node.input), **attributes)
+            known[node.output[0]] = OPERATIONS[node.op_type](*(known[name] for name in node.input))
     return np.minimum(np.maximum(known[model.graph.output[0].name][:, 0], 0), 1)
 
 

@@ -1,6 +1,7 @@
 # SPDX-FileCopyrightText: 2026 DataManager contributors
 # SPDX-License-Identifier: BSD-3-Clause
 """Draws mesher options and runs Gmsh on one geometry until the element count is near the one wanted."""
+import os
 import pathlib
 import subprocess
 
@@ -10,6 +11,10 @@ from tetrahedron_metrics import volumes
 # What Debian's Gmsh is built with; its frontal algorithm needs a Netgen that it lacks.
 ALGORITHMS = {"delaunay": 1, "hxt": 10, "initial": 3}
 SECONDS = 20  # a run of 50,000 elements takes three
+# HXT's meshes depend on addresses and on memory it has not written: with both fixed, they repeat.
+COMMAND = ["setarch", "-R", "gmsh", "-", "-v", "1", "-nt", "1", "-rand", "1e-9", "-save", "-format", "msh22",
+           "-o", "one.msh", "one.geo"]
+ENVIRONMENT = {"PATH": os.environ["PATH"], "MALLOC_PERTURB_": "1", "LC_ALL": "C", "OMP_NUM_THREADS": "1"}
 
 
 def draw_options(generator):
@@ -53,9 +58,9 @@ def run_once(geometry, options, size, folder):
     script, mesh = pathlib.Path(folder, "one.geo"), pathlib.Path(folder, "one.msh")
     mesh.unlink(missing_ok=True)
     script.write_text('SetFactory("OpenCASCADE");\n' + geometry + "\n" + size_text(options, size) + option_text(options))
-    command = ["gmsh", "-", "-v", "1", "-nt", "1", "-rand", "1e-9", "-save", "-format", "msh22", "-o", str(mesh), str(script)]
     try:
-        subprocess.run(command, timeout=SECONDS, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False)
+        subprocess.run(COMMAND, cwd=folder, env=ENVIRONMENT, timeout=SECONDS, stdout=subprocess.DEVNULL,
+                       stderr=subprocess.DEVNULL, check=False)
         points, tetrahedra = read_mesh(mesh)
     except (OSError, ValueError, IndexError, subprocess.TimeoutExpired):
         return None

@@ -14,12 +14,15 @@ import sys
 
 import numpy as np
 
+from accuracy_label import size_share
 from mesh_file import read_mesh
-from tetrahedron_metrics import FEATURES, element_metrics
+from tetrahedron_metrics import FEATURES, element_metrics, mean_features
 
 CHOICES = ["mesh", "family", "algorithm", "surface", "optimise", "grading", "ratio", "stretch", "jitter", "shuffled",
            "scale", "elements"]
-LABELS = ["minScaledJacobian", "accuracy", "poisson", "elasticity"]
+# Below this an element is flat to within rounding, and so are its metrics' digits: such meshes are left out.
+FLAT = 1e-6
+LABELS = ["minScaledJacobian", "sizeShare", "accuracy", "poisson", "elasticity"]
 BATCH = 100
 
 
@@ -36,15 +39,18 @@ def program_features(program, paths):
 
 def own_features(_, paths):
     for path in paths:
-        yield element_metrics(*read_mesh(path)).mean(0)
+        yield mean_features(*read_mesh(path)).tolist()
 
 
-def smallest_scaled_jacobian(path):
-    return float(element_metrics(*read_mesh(path))[:, FEATURES.index("ScaledJacobian")].min())
+def seen_in_the_mesh(path):
+    points, tetrahedra = read_mesh(path)
+    metrics = element_metrics(points, tetrahedra)
+    return {"minScaledJacobian": float(metrics[:, FEATURES.index("ScaledJacobian")].min()),
+            "sizeShare": size_share(points, tetrahedra)}
 
 
-def number(value):
-    return f"{value:.7g}" if isinstance(value, float) else value
+def text(value):
+    return f"{value:.6g}" if isinstance(value, float) else value
 
 
 def main():
@@ -59,10 +65,10 @@ def main():
         for start in range(0, len(rows), BATCH):
             batch = rows[start:start + BATCH]
             for row, values in zip(batch, features(program, [folder / row["mesh"] for row in batch])):
-                second = solves.get(row["mesh"], {})
-                labels = [smallest_scaled_jacobian(folder / row["mesh"]), row["accuracy"], second.get("poisson", ""), second.get("elasticity", "")]
-                writer.writerow([number(row[c]) if c not in ("ratio", "stretch", "jitter", "scale") else f"{row[c]:.4g}"
-                                 for c in CHOICES] + [number(float(v)) for v in values] + [number(v) for v in labels])
+                labels = {**solves.get(row["mesh"], {}), **row, **seen_in_the_mesh(folder / row["mesh"])}
+                if labels["minScaledJacobian"] > FLAT:
+                    writer.writerow([text(row[name]) for name in CHOICES] + [text(value) for value in values]
+                                    + [text(labels.get(name, "")) for name in LABELS])
 
 
 if __name__ == "__main__":

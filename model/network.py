@@ -1,43 +1,27 @@
 # SPDX-FileCopyrightText: 2026 DataManager contributors
 # SPDX-License-Identifier: BSD-3-Clause
-"""A network of two hidden layers whose score can only fall when a feature gets worse, fitted with L-BFGS.
-
-Inputs are oriented so that higher is better; then non-negative weights (squares of the free parameters) and rising
-activations make the score rise with every input: monotone by construction, not by luck of the data.
-"""
+"""A network of two hidden layers and a direct connection, fitted with L-BFGS; and the loss that it is fitted to."""
 import numpy as np
 from scipy.optimize import minimize
 
+BEND = 0.02        # errors of the score count by their square below this, by their size above
+RELATIVE = 0.0003  # share of the squared error of the score's logarithm: keeps small scores in order
+RISE = 1000.0      # share of the squared rises of the score along a jitter sequence
+
 
 class Network:
-    def __init__(self, inputs, hidden, generator, monotone=True):
+    def __init__(self, inputs, hidden, generator):
         self.shapes = [(inputs, hidden), (hidden,), (hidden, hidden), (hidden,), (hidden, 1), (1,), (inputs, 1)]
-        self.monotone = monotone
-        parts = []
+        spreads = [1 / np.sqrt(shape[0]) if len(shape) == 2 else 1.0 for shape in self.shapes]
+        self.flat = np.concatenate([(generator.normal(size=shape) * spread).ravel()
+                                    for shape, spread in zip(self.shapes, spreads)])
+
+    def weights(self, flat=None):
+        flat, parts, start = self.flat if flat is None else flat, [], 0
         for shape in self.shapes:
-            spread = 1 / np.sqrt(shape[0]) if len(shape) == 2 else 1.0
-            part = generator.normal(size=shape) * spread
-            if len(shape) == 2 and monotone:
-                part = np.sqrt(np.abs(part) * 0.5)
-            parts.append(part.ravel())
-        self.raw = np.concatenate(parts)
-
-    def arrays(self, raw):
-        """The weights and biases that the free parameters stand for, and the derivative of each by its parameter."""
-        values, slopes, start = [], [], 0
-        for shape in self.shapes:
-            part = raw[start:start + int(np.prod(shape))].reshape(shape)
-            start += part.size
-            squared = self.monotone and len(shape) == 2
-            values.append(part ** 2 if squared else part)
-            slopes.append(2 * part if squared else np.ones_like(part))
-        return values, slopes
-
-    def weights(self):
-        return self.arrays(self.raw)[0]
-
-    def predict(self, x):
-        return self.forward(x, self.weights())[-1][:, 0]
+            parts.append(flat[start:start + int(np.prod(shape))].reshape(shape))
+            start += parts[-1].size
+        return parts
 
     @staticmethod
     def forward(x, w):
@@ -45,22 +29,53 @@ class Network:
         second = np.tanh(first @ w[2] + w[3])
         return first, second, 1 / (1 + np.exp(-(second @ w[4] + w[5] + x @ w[6])))
 
-    def loss(self, raw, x, y, importance, relative, decay):
-        w, slopes = self.arrays(raw)
-        first, second, score = self.forward(x, w)
-        error, ratio = score - y, np.log(score / y)
-        loss = (importance * (error ** 2 + relative * ratio ** 2)).sum()
-        by_output = importance * (2 * error * score * (1 - score) + 2 * relative * ratio * (1 - score))
+    def predict(self, x):
+        return self.forward(x, self.weights())[-1][:, 0]
+
+    def fit(self, x, y, importance, sequences=(0, 1), decay=1e-5, steps=2000):
+        goal = Loss(x, y, importance, sequences, decay)
+        result = minimize(lambda flat: goal.value_and_gradient(self, flat), self.flat, jac=True, method="L-BFGS-B",
+                          options={"maxiter": steps, "maxfun": 2 * steps, "maxcor": 20})
+        self.flat = result.x
+        return result.fun
+
+
+class Loss:
+    def __init__(self, x, y, importance, sequences, decay):
+        """sequences: how many of the last rows, and the length of each jitter sequence among them; (0, 1) for none."""
+        self.x, self.y, self.decay = x, y[:, None], decay
+        self.importance = (importance / importance.sum())[:, None]
+        self.last, self.length = sequences
+        measured = y[len(y) - self.last:].reshape(-1, self.length)
+        self.allowed = np.maximum(np.diff(measured, axis=1), 0)  # slivers can profit from being moved
+
+    def of_scores(self, score):
+        error, ratio = score - self.y, np.log(score / self.y)
+        root = np.sqrt(1 + (error / BEND) ** 2)
+        value = (self.importance * (2 * BEND ** 2 * (root - 1) + RELATIVE * ratio ** 2)).sum()
+        slope = self.importance * (2 * error / root + 2 * RELATIVE * ratio / score)
+        return value, slope
+
+    def of_rises(self, score):
+        slope = np.zeros_like(score)
+        if not self.last:
+            return 0.0, slope
+        paths = score[-self.last:].reshape(-1, self.length)
+        rises = np.maximum(np.diff(paths, axis=1) - self.allowed, 0)
+        by_path = np.zeros_like(paths)
+        by_path[:, 1:] += 2 * rises
+        by_path[:, :-1] -= 2 * rises
+        slope[-self.last:] = RISE / self.last * by_path.reshape(-1, 1)
+        return RISE / self.last * (rises ** 2).sum(), slope
+
+    def value_and_gradient(self, network, flat):
+        w = network.weights(flat)
+        first, second, score = network.forward(self.x, w)
+        (value, slope), (rising, rising_slope) = self.of_scores(score), self.of_rises(score)
+        by_output = (slope + rising_slope) * score * (1 - score)
         by_second = by_output @ w[4].T * (1 - second ** 2)
         by_first = by_second @ w[2].T * (1 - first ** 2)
-        gradients = [x.T @ by_first, by_first.sum(0), first.T @ by_second, by_second.sum(0),
-                     second.T @ by_output, by_output.sum(0), x.T @ by_output]
-        flat = np.concatenate([(g * s).ravel() for g, s in zip(gradients, slopes)])
-        return loss + decay * (raw ** 2).sum(), flat + 2 * decay * raw
-
-    def fit(self, x, y, importance, relative=0.002, decay=1e-7, steps=2000):
-        weights = (importance / importance.sum())[:, None]
-        result = minimize(self.loss, self.raw, args=(x, y[:, None], weights, relative, decay), jac=True,
-                          method="L-BFGS-B", options={"maxiter": steps, "maxfun": 2 * steps, "maxcor": 20})
-        self.raw = result.x
-        return result.fun
+        parts = [self.x.T @ by_first, by_first.sum(0), first.T @ by_second, by_second.sum(0),
+                 second.T @ by_output, by_output.sum(0), self.x.T @ by_output]
+        gradient = np.concatenate([part.ravel() for part in parts]) + 2 * self.decay * flat
+        return value + rising + self.decay * (flat ** 2).sum(), gradient

@@ -18,6 +18,14 @@ def numbers(rows, name):
     return np.array([float(row[name]) if row[name] else np.nan for row in rows])
 
 
+def read_sequences(path=DEFAULT.parent / "jitter.csv"):
+    """The jitter sequences, one after another; length is the number of rows of each."""
+    with open(path, encoding="ascii", newline="") as stream:
+        rows = list(csv.DictReader(stream))
+    return SimpleNamespace(features=np.column_stack([numbers(rows, name) for name in FEATURES]),
+                           accuracy=numbers(rows, "accuracy"), length=len({row["share"] for row in rows}))
+
+
 def read_table(path=DEFAULT):
     with open(path, encoding="ascii", newline="") as stream:
         rows = list(csv.DictReader(stream))
@@ -26,7 +34,7 @@ def read_table(path=DEFAULT):
         rows=rows, family=family, tested=np.isin(family, TEST_FAMILIES),
         features=np.column_stack([numbers(rows, name) for name in FEATURES]),
         **{name: numbers(rows, name) for name in
-           ["accuracy", "poisson", "elasticity", "minScaledJacobian", "stretch", "jitter", "scale", "elements"]})
+           ["accuracy", "poisson", "elasticity", "minScaledJacobian", "sizeShare", "stretch", "jitter", "scale", "elements"]})
 
 
 def data_hash(path=DEFAULT):

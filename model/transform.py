@@ -10,9 +10,9 @@ from tetrahedron_metrics import FEATURES
 
 USED = [FEATURES.index(name) for name in ["EdgeRatio", "AspectRatio", "AspectGamma", "Condition", "RadiusRatio",
                                           "RelativeSizeSquared", "ScaledJacobian", "Shape", "ShapeAndSize"]]
+# Of two meshes, the one with the higher value is the better one, or with -1 the worse.
 BETTER_WHEN_HIGH = np.array([-1, -1, -1, -1, -1, 1, 1, 1, 1.0])
-TINY = 1e-12
 
 
 def logarithms(features):
-    return np.log(np.maximum(np.asarray(features, dtype=float)[:, USED], TINY))
+    return np.log(np.asarray(features, dtype=float)[:, USED])

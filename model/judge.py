@@ -1,0 +1,103 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 DataManager contributors
+# SPDX-License-Identifier: BSD-3-Clause
+"""Judges the shipped model on the families kept from it, as Markdown tables: judge.py > data/judgement.md."""
+import numpy as np
+from scipy.stats import spearmanr
+from sklearn.ensemble import HistGradientBoostingRegressor
+
+from baselines import all_baselines
+from evaluate import scores
+from table import read_table
+from transform import logarithms
+
+
+def rank(a, b):
+    return spearmanr(a, b)[0]
+
+
+def figures(score, order, truth):
+    return f"{rank(order, truth):.4f} | {np.abs(score - truth).mean():.4f}"
+
+
+def comparison(table, train, test):
+    truth, score = table.accuracy[test], scores(table.features[test])
+    print("\n## Against the baselines, unseen families\n\n| predictor | Spearman | mean absolute error |\n|---|---|---|")
+    print(f"| **mesh.onnx** | {figures(score, score, truth)} |")
+    for name, answer, order in all_baselines(table, train, test):
+        print(f"| {name} | {figures(answer, order, truth)} |")
+
+
+def with_sizes(table, train, test):
+    """How far the same inputs go when the distribution of element sizes is told as well."""
+    def fitted(inputs):
+        return HistGradientBoostingRegressor(max_iter=400, random_state=1).fit(inputs[train], table.accuracy[train])
+    x, truth = logarithms(table.features), table.accuracy[test]
+    more = np.column_stack([x, table.sizeShare])
+    print("\n## What the means leave out\n\n| gradient-boosted trees on | Spearman | mean absolute error |\n|---|---|---|")
+    for name, inputs in (("the features", x), ("the features and what uneven sizes cost", more)):
+        answer = fitted(inputs).predict(inputs[test])
+        print(f"| {name} | {figures(answer, answer, truth)} |")
+
+
+def per_family(table, test):
+    print("\n## Each unseen family\n\n| family | meshes | Spearman | mean absolute error | mean score - measured |\n|---|---|---|---|---|")
+    for family in sorted(set(table.family[test])):
+        rows = test & (table.family == family)
+        score, truth = scores(table.features[rows]), table.accuracy[rows]
+        print(f"| {family} | {rows.sum()} | {figures(score, score, truth)} | {(score - truth).mean():+.4f} |")
+
+
+def subsets(table, test):
+    meshed = (table.stretch == 1) & (table.jitter == 0)
+    grading = np.array([row["grading"] for row in table.rows])
+    algorithm = np.array([row["algorithm"] for row in table.rows])
+    optimised = np.array([int(row["optimise"]) > 0 for row in table.rows])
+    ratio = np.array([float(row["ratio"]) for row in table.rows])
+    ordinary = meshed & optimised & (algorithm != "initial") & ((grading == "even") | (ratio < 3))
+    parts = {"as meshed": meshed, "as meshed, optimised, size field within a factor of 3": ordinary, "stretched or jittered": ~meshed, "stretched 5 times or more": table.stretch >= 5}
+    parts.update({f"as meshed, sizes: {name}": meshed & (grading == name) for name in sorted(set(grading))})
+    parts.update({f"as meshed, algorithm: {name}": meshed & (algorithm == name) for name in sorted(set(algorithm))})
+    print("\n## Parts of the unseen families\n\n| part | meshes | Spearman | mean absolute error |\n|---|---|---|---|")
+    for name, part in parts.items():
+        rows = test & part
+        score = scores(table.features[rows])
+        print(f"| {name} | {rows.sum()} | {figures(score, score, table.accuracy[rows])} |")
+
+
+def calibration(table, test):
+    score, truth = scores(table.features[test]), table.accuracy[test]
+    print("\n## Calibration, unseen families\n\n| score | meshes | mean score | mean measured | 5 % to 95 % of measured |\n|---|---|---|---|---|")
+    for low in np.arange(0, 1, 0.1):
+        rows = (score >= low) & (score < low + 0.1)
+        if rows.any():
+            spread = np.percentile(truth[rows], [5, 95])
+            print(f"| {low:.1f} to {low + 0.1:.1f} | {rows.sum()} | {score[rows].mean():.3f} | {truth[rows].mean():.3f} "
+                  f"| {spread[0]:.3f} to {spread[1]:.3f} |")
+
+
+def second_labels(table, test):
+    print("\n## Real solves, unseen families\n\n| measured | meshes | Spearman | mean absolute error "
+          "| Spearman, interpolation with it |\n|---|---|---|---|---|")
+    for name in ("poisson", "elasticity"):
+        truth = getattr(table, name)
+        rows = test & np.isfinite(truth)
+        score = scores(table.features[rows])
+        print(f"| {name} | {rows.sum()} | {figures(score, score, truth[rows])} | {rank(table.accuracy[rows], truth[rows]):.4f} |")
+
+
+def main():
+    table = read_table()
+    train, test = ~table.tested, table.tested
+    print(f"# Judgement of mesh.onnx\n\n{train.sum()} meshes of {len(set(table.family[train]))} families to train on, "
+          f"{test.sum()} of {len(set(table.family[test]))} others to judge by.")
+    comparison(table, train, test)
+    with_sizes(table, train, test)
+    subsets(table, test)
+    calibration(table, test)
+    second_labels(table, test)
+    per_family(table, test)
+
+
+if __name__ == "__main__":
+    main()
