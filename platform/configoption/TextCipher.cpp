@@ -9,8 +9,6 @@
 #include <QByteArray>
 #include <QDebug>
 
-#include <cstring>
-
 namespace ConfigOption {
 
 namespace {
@@ -27,11 +25,29 @@ enum TextForm : char
     Utf16 = 'W'
 };
 
+/// Whether the text comes back from UTF-8.
+bool isValidUnicode(const QString& text)
+{
+    if (text.startsWith(QChar::ByteOrderMark)) {
+        return false;
+    }
+    for (int i = 0; i < text.size(); ++i) {
+        if (!text.at(i).isSurrogate()) {
+            continue;
+        }
+        const bool isPair = text.at(i).isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+        if (!isPair) {
+            return false;
+        }
+        ++i;
+    }
+    return true;
+}
+
 QByteArray packText(const QString& text)
 {
-    const QByteArray utf8 = text.toUtf8();
-    if (QString::fromUtf8(utf8) == text) {
-        return Utf8 + utf8;
+    if (isValidUnicode(text)) {
+        return text.toUtf8().prepend(Utf8);
     }
     QByteArray packed(1 + text.size() * 2, Qt::Uninitialized);
     packed[0] = Utf16;
@@ -64,15 +80,25 @@ QString textOf(const QByteArray& sealed)
     return versionMark + QLatin1String(sealed.toBase64());
 }
 
-/// The sealed bytes of a text; empty when the text is no cipher text. Comparing with what the bytes are written as
-/// refuses the spellings that Base64 decoders accept beside the one that is written.
+/// The sealed bytes of a text; empty when the text is no cipher text. Decoders of Base64 accept more spellings than the
+/// one that is written, and those are refused: a strict decoder whose result has the length that belongs to the text
+/// took every letter for six bits, so only bits behind the last byte are left to differ, and they stand in the last
+/// four letters.
 QByteArray sealedBytesOf(const QString& text)
 {
+    constexpr int groupLetters = 4;
+    constexpr int groupBytes = 3;
     if (!text.startsWith(versionMark)) {
         return {};
     }
-    const QByteArray sealed = QByteArray::fromBase64(text.midRef(versionMark.size()).toLatin1());
-    return textOf(sealed) == text ? sealed : QByteArray();
+    const auto letters = text.midRef(versionMark.size());
+    const auto result = QByteArray::fromBase64Encoding(letters.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
+    const QByteArray& sealed = result.decoded;
+    if (!result || sealed.isEmpty() || letters.size() != (sealed.size() + groupBytes - 1) / groupBytes * groupLetters) {
+        return {};
+    }
+    const QByteArray lastGroup = sealed.mid((sealed.size() - 1) / groupBytes * groupBytes).toBase64();
+    return letters.endsWith(QLatin1String(lastGroup)) ? sealed : QByteArray();
 }
 
 } // namespace

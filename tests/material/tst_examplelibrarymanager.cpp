@@ -101,6 +101,7 @@ private Q_SLOTS:
     void reads_data();
     void reads();
     void keepsUnreadableFiles();
+    void offersTheSamples();
 };
 
 void TestExampleLibraryManager::init()
@@ -216,6 +217,24 @@ void TestExampleLibraryManager::keepsUnreadableFiles()
     QCOMPARE(content(path()), QByteArray("{\"exampleList\":[]}"));
     manager->saveData();
     QVERIFY(!QFile::exists(path() + text(".unreadable.2")));
+}
+
+void TestExampleLibraryManager::offersTheSamples()
+{
+    const QString samples = QStringLiteral(DATAMANAGER_SOURCE_DIR "/samples");
+    QVERIFY(QFile::copy(samples + text("/libraries/ExampleLibrary.json"), path()));
+    const auto examples = newManager()->getExampleLibData()->exampleList;
+    QVERIFY(!examples.isEmpty());
+    for (const auto& data : examples) {
+        for (const QString& shown : {data->chineseTitle, data->englishTitle, data->chineseDescription,
+                                     data->englishDescription, data->chineseCategory, data->englishCategory}) {
+            QVERIFY(!shown.isEmpty());
+        }
+        for (const QString& project : {data->chineseProjectPath, data->englishProjectPath}) {
+            QVERIFY2(project.startsWith(text("../../samples/")), qPrintable(project));
+            QVERIFY2(QFile::exists(samples + QLatin1Char('/') + QFileInfo(project).fileName()), qPrintable(project));
+        }
+    }
 }
 
 QTEST_GUILESS_MAIN(TestExampleLibraryManager)

@@ -69,7 +69,10 @@ private Q_SLOTS:
     void savesAfterEveryChange();
     void loads_data();
     void loads();
+    void loadsNothingOfTruncatedFiles();
     void takesTheNextIdentifierFromTheNumberOfEntries();
+    void worksUnderUnusualPaths_data();
+    void worksUnderUnusualPaths();
     void returnsEveryValueAsItWas_data();
     void returnsEveryValueAsItWas();
     void returnsEveryTextAsItWas();
@@ -256,6 +259,63 @@ void TestMaterialFiles::loads()
         }
     }
     QVERIFY(manager().importAllMaterial(ProjectLib));
+}
+
+void TestMaterialFiles::loadsNothingOfTruncatedFiles()
+{
+    m_fixture->createSoftware(text("a"));
+    m_fixture->createProject(text("铜 %1"));
+    const QByteArray json = contentOf(m_fixture->softwarePath());
+    const QByteArray cipherText = contentOf(m_fixture->projectPath());
+    for (int size = 0; size < json.size(); ++size) {
+        writeContent(m_fixture->softwarePath(), json.left(size));
+        manager().initSoftwareMaterial();
+        QCOMPARE(m_fixture->software(), text("next 1"));
+    }
+    for (int size = 0; size < cipherText.size(); ++size) {
+        writeContent(m_fixture->projectPath(), cipherText.left(size));
+        expectRefusedCipherText();
+        manager().initProjectMaterial();
+        QCOMPARE(m_fixture->project(), text("next 1"));
+    }
+    writeContent(m_fixture->projectPath(), cipherText);
+    manager().initProjectMaterial();
+    QCOMPARE(m_fixture->project(), text("1:铜 %1 next 2"));
+}
+
+void TestMaterialFiles::worksUnderUnusualPaths_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("blanks") << text(" a b ");
+    QTest::newRow("placeholders") << text("%1 %2 %%");
+    QTest::newRow("Chinese") << text("项目 一");
+    QTest::newRow("outside the basic plane") << text("\xf0\x9f\x94\xa9");
+    QTest::newRow("as long as a name may be") << QString(255, QLatin1Char('n'));
+}
+
+void TestMaterialFiles::worksUnderUnusualPaths()
+{
+    QFETCH(QString, name);
+    const QString directory = m_fixture->projectDirectory() + QLatin1Char('/') + name;
+    const QString path = directory + text("/MaterialLibrary.json");
+    QVERIFY(QDir().mkpath(directory));
+    BaseModule::GlobalHelper::setProjectTempIODir(directory);
+    expectLine(text("Read project material library file fail, please check path: ") + path);
+    manager().initProjectMaterial();
+    m_fixture->createProject(text("a"));
+    manager().initProjectMaterial();
+    QCOMPARE(m_fixture->project(), text("1:a next 2"));
+    writeContent(path, "damaged");
+    expectRefusedCipherText();
+    manager().initProjectMaterial();
+    m_fixture->createProject(text("b"));
+    QCOMPARE(contentOf(path + text(".unreadable")), QByteArray("damaged"));
+    manager().clearProjectMaterial();
+    QVERIFY(!QFile::exists(path));
+    BaseModule::GlobalHelper::setProjectTempIODir(directory + text("/none"));
+    expectLine(text("Write project material library file fail, please check path: %1/none/MaterialLibrary.json.")
+                   .replace(text("%1"), directory));
+    m_fixture->createProject(text("c"));
 }
 
 void TestMaterialFiles::takesTheNextIdentifierFromTheNumberOfEntries()
@@ -507,12 +567,13 @@ void TestMaterialFiles::readsWhereNothingCanBeWritten()
     const QString path = directory.filePath(text("MaterialLibrary.json"));
     manager().m_softwareLibPath = path;
     m_fixture->createSoftware(text("a"));
-    const auto readOnly = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+    const auto readOnly =
+        QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
     QVERIFY(QFile::setPermissions(directory.path(), readOnly));
     // Root may write everywhere, so the test goes on as nobody.
-    const bool isNobody = ::geteuid() == 0 && ::seteuid(65534) == 0;
+    const bool isNobody = ::geteuid() == 0 && ::setresuid(65534, 65534, 0) == 0;
     const auto restore = qScopeGuard([&] {
-        if (isNobody && ::seteuid(0) != 0) {
+        if (isNobody && ::setresuid(0, 0, 0) != 0) {
             qFatal("cannot become root again");
         }
         QFile::setPermissions(directory.path(), readOnly | QFile::WriteOwner);

@@ -7,7 +7,6 @@
 
 #include <openssl/crypto.h>
 #include <openssl/evp.h>
-#include <openssl/hmac.h>
 #include <openssl/rand.h>
 
 #include <memory>
@@ -35,66 +34,89 @@ const unsigned char* bytesOf(const QByteArray& array)
     return reinterpret_cast<const unsigned char*>(array.constData());
 }
 
-/// What AES-256-CBC makes of `input` in either direction; null on failure, which includes wrong padding.
-QByteArray transform(const QByteArray& input, const QByteArray& vector, const CipherKeys& keys, bool isEncrypting)
+struct KeyDeleter
+{
+    void operator()(EVP_PKEY* key) const { EVP_PKEY_free(key); }
+};
+
+struct DigestDeleter
+{
+    void operator()(EVP_MD_CTX* context) const { EVP_MD_CTX_free(context); }
+};
+
+/// What AES-256-CBC makes of `size` bytes in either direction, written to `output`, which has room for a block more.
+/// How many bytes that are; -1 on failure, which includes wrong padding.
+int transform(const unsigned char* input, int size, const unsigned char* vector, const CipherKeys& keys,
+              bool isEncrypting, unsigned char* output)
 {
     const std::unique_ptr<EVP_CIPHER_CTX, ContextDeleter> context(EVP_CIPHER_CTX_new());
-    QByteArray output(input.size() + blockSize, Qt::Uninitialized);
-    int size = 0;
-    int lastSize = 0;
+    int written = 0;
+    int lastWritten = 0;
     if (context == nullptr ||
-        EVP_CipherInit_ex(context.get(), EVP_aes_256_cbc(), nullptr, keys.encryption.data(), bytesOf(vector),
+        EVP_CipherInit_ex(context.get(), EVP_aes_256_cbc(), nullptr, keys.encryption.data(), vector,
                           isEncrypting ? 1 : 0) != 1 ||
-        EVP_CipherUpdate(context.get(), bytesOf(output), &size, bytesOf(input), input.size()) != 1 ||
-        EVP_CipherFinal_ex(context.get(), bytesOf(output) + size, &lastSize) != 1) {
-        return {};
+        EVP_CipherUpdate(context.get(), output, &written, input, size) != 1 ||
+        EVP_CipherFinal_ex(context.get(), output + written, &lastWritten) != 1) {
+        return -1;
     }
-    output.resize(size + lastSize);
-    return output;
+    return written + lastWritten;
 }
 
-/// Empty on failure.
-QByteArray tagOf(const QByteArray& sealed, const QByteArray& version, const CipherKeys& keys)
+/// Over the version and the first `size` bytes of `sealed`; empty on failure.
+QByteArray tagOf(const QByteArray& version, const QByteArray& sealed, int size, const CipherKeys& keys)
 {
-    const QByteArray message = version + sealed;
+    const std::unique_ptr<EVP_PKEY, KeyDeleter> key(
+        EVP_PKEY_new_mac_key(EVP_PKEY_HMAC, nullptr, keys.integrity.data(), int(keys.integrity.size())));
+    const std::unique_ptr<EVP_MD_CTX, DigestDeleter> context(EVP_MD_CTX_new());
     QByteArray tag(tagSize, '\0');
-    unsigned int size = 0;
-    const bool isMade = HMAC(EVP_sha256(), keys.integrity.data(), int(keys.integrity.size()), bytesOf(message),
-                             size_t(message.size()), bytesOf(tag), &size) != nullptr;
-    return isMade && size == tagSize ? tag : QByteArray();
+    size_t tagLength = tagSize;
+    if (key == nullptr || context == nullptr ||
+        EVP_DigestSignInit(context.get(), nullptr, EVP_sha256(), nullptr, key.get()) != 1 ||
+        EVP_DigestSignUpdate(context.get(), version.constData(), size_t(version.size())) != 1 ||
+        EVP_DigestSignUpdate(context.get(), sealed.constData(), size_t(size)) != 1 ||
+        EVP_DigestSignFinal(context.get(), bytesOf(tag), &tagLength) != 1 || tagLength != tagSize) {
+        return {};
+    }
+    return tag;
 }
 
 } // namespace
 
+// Texts of 100 MB are usual, so each step works in place instead of on a copy.
+
 QByteArray SealedBytes::seal(const QByteArray& plain, const QByteArray& version, const CipherKeys& keys)
 {
-    QByteArray vector(vectorSize, '\0');
-    if (RAND_bytes(bytesOf(vector), vectorSize) != 1) {
+    QByteArray sealed(vectorSize + plain.size() + blockSize + tagSize, Qt::Uninitialized);
+    unsigned char* const bytes = bytesOf(sealed);
+    if (RAND_bytes(bytes, vectorSize) != 1) {
         return {};
     }
-    const QByteArray cipherText = transform(plain, vector, keys, true);
-    if (cipherText.isEmpty()) {
+    const int size = transform(bytesOf(plain), plain.size(), bytes, keys, true, bytes + vectorSize);
+    if (size < 0) {
         return {};
     }
-    const QByteArray authenticated = vector + cipherText;
-    const QByteArray tag = tagOf(authenticated, version, keys);
-    return tag.isEmpty() ? QByteArray() : authenticated + tag;
+    const QByteArray tag = tagOf(version, sealed, vectorSize + size, keys);
+    sealed.resize(vectorSize + size);
+    return tag.isEmpty() ? QByteArray() : sealed.append(tag);
 }
 
 bool SealedBytes::open(const QByteArray& sealed, const QByteArray& version, const CipherKeys& keys, QByteArray& plain)
 {
-    if (sealed.size() < vectorSize + blockSize + tagSize) {
+    const int cipherSize = sealed.size() - vectorSize - tagSize;
+    if (cipherSize < blockSize) {
         return false;
     }
-    const QByteArray authenticated = sealed.left(sealed.size() - tagSize);
-    const QByteArray tag = tagOf(authenticated, version, keys);
-    if (tag.isEmpty() || CRYPTO_memcmp(tag.constData(), sealed.constData() + authenticated.size(), tagSize) != 0) {
+    const QByteArray tag = tagOf(version, sealed, vectorSize + cipherSize, keys);
+    const unsigned char* const bytes = bytesOf(sealed);
+    if (tag.isEmpty() || CRYPTO_memcmp(tag.constData(), bytes + vectorSize + cipherSize, tagSize) != 0) {
         return false;
     }
-    const QByteArray opened = transform(authenticated.mid(vectorSize), authenticated.left(vectorSize), keys, false);
-    if (opened.isNull()) {
+    QByteArray opened(cipherSize + blockSize, Qt::Uninitialized);
+    const int size = transform(bytes + vectorSize, cipherSize, bytes, keys, false, bytesOf(opened));
+    if (size < 0) {
         return false;
     }
+    opened.resize(size);
     plain = opened;
     return true;
 }
