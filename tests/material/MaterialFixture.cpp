@@ -121,3 +121,13 @@ QByteArray decipheredContentOf(const QString& path)
 {
     return ConfigOption::TextCipher::getInstance()->decryptData_CBC(QString::fromUtf8(contentOf(path))).toUtf8();
 }
+
+void expectLine(const QString& line)
+{
+    QTest::ignoreMessage(QtDebugMsg, qPrintable(line));
+}
+
+void expectRefusedCipherText()
+{
+    expectLine(QStringLiteral("Decrypt text fail: it was not encrypted with this key."));
+}

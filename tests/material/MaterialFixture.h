@@ -69,3 +69,8 @@ QByteArray contentOf(const QString& path);
 void writeContent(const QString& path, const QByteArray& content);
 /// The library file's content as JSON whatever the development setting.
 QByteArray decipheredContentOf(const QString& path);
+
+/// Declares a debug log line that comes next.
+void expectLine(const QString& line);
+/// Declares the line of the cipher for a text that it refuses.
+void expectRefusedCipherText();

@@ -29,17 +29,17 @@ Function next(const char* mangledName)
     return reinterpret_cast<Function>(dlsym(RTLD_NEXT, mangledName));
 }
 
-void expectLine(QtMsgType type, const QString& line)
+void expectMessage(QtMsgType type, const QString& line)
 {
     QTest::ignoreMessage(type, qPrintable(line));
 }
 
 void expectFailedCreation(const char* className)
 {
-    expectLine(QtCriticalMsg,
-               QStringLiteral("Failed to create an instance of type %1").arg(QString::fromUtf8(className)));
-    expectLine(QtCriticalMsg,
-               QStringLiteral("Did you forget to declare a public parameterless Q_INVOKABLE constructor?"));
+    expectMessage(QtCriticalMsg,
+                  QStringLiteral("Failed to create an instance of type %1").arg(QString::fromUtf8(className)));
+    expectMessage(QtCriticalMsg,
+                  QStringLiteral("Did you forget to declare a public parameterless Q_INVOKABLE constructor?"));
 }
 
 } // namespace
@@ -109,32 +109,32 @@ void TestMaterialFailures::logsMaterialsThatCannotBeCreated()
     MaterialLibraryManager& manager = m_fixture->manager();
     isCreationFailing = true;
     expectFailedCreation("DataModel::MaterialDataArray");
-    expectLine(QtDebugMsg, QStringLiteral("Deserialize software material data array fail!"));
+    expectMessage(QtDebugMsg, QStringLiteral("Deserialize software material data array fail!"));
     manager.initSoftwareMaterial();
     // The software library's counter stays, the project's is set from the empty map.
     QCOMPARE(m_fixture->software(), QStringLiteral("next 2"));
     expectFailedCreation("DataModel::MaterialDataArray");
-    expectLine(QtDebugMsg, QStringLiteral("Deserialize project material data array fail !"));
+    expectMessage(QtDebugMsg, QStringLiteral("Deserialize project material data array fail !"));
     manager.initProjectMaterial();
     QCOMPARE(m_fixture->project(), QStringLiteral("next 1"));
 
     // A missing software file is deserialised as an empty one, a missing project file is not.
     QVERIFY(QFile::remove(m_fixture->softwarePath()));
     QVERIFY(QFile::remove(m_fixture->projectPath()));
-    expectLine(QtDebugMsg, QStringLiteral("Read software material library file fail, please check path: ") +
-                               m_fixture->softwarePath());
+    expectMessage(QtDebugMsg, QStringLiteral("Read software material library file fail, please check path: ") +
+                                  m_fixture->softwarePath());
     expectFailedCreation("DataModel::MaterialDataArray");
-    expectLine(QtDebugMsg, QStringLiteral("Deserialize software material data array fail!"));
+    expectMessage(QtDebugMsg, QStringLiteral("Deserialize software material data array fail!"));
     manager.initSoftwareMaterial();
-    expectLine(QtDebugMsg, QStringLiteral("Read project material library file fail, please check path: ") +
-                               m_fixture->projectPath());
+    expectMessage(QtDebugMsg, QStringLiteral("Read project material library file fail, please check path: ") +
+                                  m_fixture->projectPath());
     manager.initProjectMaterial();
 
     // What was not read is not lost by the next save.
     writeContent(m_fixture->softwarePath(), softwareFile);
     writeContent(m_fixture->projectPath(), projectFile);
     expectFailedCreation("DataModel::MaterialDataArray");
-    expectLine(QtDebugMsg, QStringLiteral("Deserialize software material data array fail!"));
+    expectMessage(QtDebugMsg, QStringLiteral("Deserialize software material data array fail!"));
     manager.initSoftwareMaterial();
     m_fixture->createSoftware(QStringLiteral("new"));
     QCOMPARE(contentOf(m_fixture->softwarePath() + QStringLiteral(".unreadable")), softwareFile);
@@ -147,9 +147,9 @@ void TestMaterialFailures::logsMaterialsThatCannotBeSerialized()
     const QByteArray softwareFile = contentOf(m_fixture->softwarePath());
     const QByteArray projectFile = contentOf(m_fixture->projectPath());
     isSerializationFailing = true;
-    expectLine(QtDebugMsg, QStringLiteral("Serialize software material data array fail!"));
+    expectMessage(QtDebugMsg, QStringLiteral("Serialize software material data array fail!"));
     m_fixture->createSoftware(QStringLiteral("b"));
-    expectLine(QtDebugMsg, QStringLiteral("Serialize project material data array fail!"));
+    expectMessage(QtDebugMsg, QStringLiteral("Serialize project material data array fail!"));
     m_fixture->createProject(QStringLiteral("b"));
     QCOMPARE(contentOf(m_fixture->softwarePath()), softwareFile);
     QCOMPARE(contentOf(m_fixture->projectPath()), projectFile);
@@ -161,12 +161,12 @@ void TestMaterialFailures::logsExamplesThatCannotBeCreated()
 {
     isCreationFailing = true;
     const QString path = QCoreApplication::applicationDirPath() + QStringLiteral("/ConfigFiles/ExampleLibrary.json");
-    expectLine(QtDebugMsg, QStringLiteral("read Example file fail, please check path: ") + path);
+    expectMessage(QtDebugMsg, QStringLiteral("read Example file fail, please check path: ") + path);
     expectFailedCreation("DataModel::ExampleLibData");
-    expectLine(QtDebugMsg, QStringLiteral("deserialize Example fail !"));
+    expectMessage(QtDebugMsg, QStringLiteral("deserialize Example fail !"));
     const std::unique_ptr<ExampleLibraryManager> manager(new ExampleLibraryManager);
     QVERIFY(manager->getExampleLibData().isNull());
-    expectLine(QtDebugMsg, QStringLiteral("serialize Example fail !"));
+    expectMessage(QtDebugMsg, QStringLiteral("serialize Example fail !"));
     manager->saveData();
     QVERIFY(!QFile::exists(path));
 }
@@ -177,7 +177,7 @@ void TestMaterialFailures::logsExamplesThatCannotBeSerialized()
     writeContent(path, "{\"exampleList\":[]}");
     const std::unique_ptr<ExampleLibraryManager> manager(new ExampleLibraryManager);
     isSerializationFailing = true;
-    expectLine(QtDebugMsg, QStringLiteral("serialize Example fail !"));
+    expectMessage(QtDebugMsg, QStringLiteral("serialize Example fail !"));
     manager->saveData();
     QCOMPARE(contentOf(path), QByteArray("{\"exampleList\":[]}"));
 }
