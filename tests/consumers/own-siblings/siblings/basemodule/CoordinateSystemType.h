@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#pragma once
+
+namespace BaseModule {
+
+enum CoordinateSystemType : int
+{
+    Plain
+};
+
+} // namespace BaseModule

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#pragma once
+
+namespace BaseModule {
+
+enum InteractionMode : int
+{
+    Undefine,
+    Select,
+    Rotate,
+    Translate,
+    MouseDraw
+};
+
+} // namespace BaseModule
