@@ -12,18 +12,22 @@ from evaluate import SHIPPED, scores
 from network import Network
 from table import DEFAULT, data_hash, read_sequences, read_table
 from tetrahedron_metrics import FEATURES
-from transform import logarithms
+from transform import ROBUST, USED, logarithms
 
-NAME, VERSION = "mesh-accuracy", "1.1.0"
+NAME, VERSION = "mesh-accuracy", "1.2.0"
 NETWORKS, HIDDEN, STEPS = 4, 16, 1500
-DECAY, JITTER_IMPORTANCE, ANCHOR_IMPORTANCE = 1e-5, 0.3, 2.0
+DECAY, JITTER_IMPORTANCE, ANCHOR_IMPORTANCE = 2e-6, 0.3, 2.0
 
 
 def half_whitening(x):
-    """The features say much the same; this evens out half of the differences in spread between their combinations."""
-    deviation = x.std(0)
-    values, vectors = np.linalg.eigh(np.cov((x / deviation).T))
-    return vectors * np.maximum(values, 1e-4) ** -0.25 / deviation[:, None]
+    """Mixes the robust features, which say much the same: this evens out half of the differences in spread between
+    their combinations. The rest get no share."""
+    chosen = [USED.index(FEATURES.index(name)) for name in ROBUST]
+    deviation = x[:, chosen].std(0)
+    values, vectors = np.linalg.eigh(np.cov((x[:, chosen] / deviation).T))
+    mixing = np.zeros((x.shape[1], len(chosen)))
+    mixing[chosen] = vectors * np.maximum(values, 1e-4) ** -0.25 / deviation[:, None]
+    return mixing
 
 
 def fit(table, rows, sequences):
@@ -34,7 +38,7 @@ def fit(table, rows, sequences):
     importance = np.r_[np.ones(rows.sum()), np.full(len(anchor_labels), ANCHOR_IMPORTANCE),
                        np.full(len(sequences.accuracy), JITTER_IMPORTANCE)]
     mean, mixing = x.mean(0), half_whitening(x)
-    networks = [Network(x.shape[1], HIDDEN, np.random.default_rng(seed)) for seed in range(1, NETWORKS + 1)]
+    networks = [Network(mixing.shape[1], HIDDEN, np.random.default_rng(seed)) for seed in range(1, NETWORKS + 1)]
     for network in networks:
         network.fit((x - mean) @ mixing, y, importance, (len(sequences.accuracy), sequences.length), DECAY, STEPS)
     return write_onnx.constants(networks, mean, mixing, x.min(0), x.max(0))
