@@ -8,6 +8,7 @@ set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 "$here/scripts/build.sh" release build
 if [ $# -eq 0 ]; then
-  set -- report "$here/samples/plate-with-hole.msh"
+  cd "$here"
+  set -- report samples/plate-with-hole.msh
 fi
 exec "$here/build/bin/meshquality" "$@"

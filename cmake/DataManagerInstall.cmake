@@ -35,7 +35,10 @@ if(NOT OnnxRuntime_LIBRARY_FILE MATCHES "^/usr/lib/")
 endif()
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT library)
 install(FILES README.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
-install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
+# Beside README.md as in the source, so that its links hold.
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation PATTERN Doxyfile EXCLUDE)
+install(FILES model/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/model COMPONENT documentation)
+install(FILES samples/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/samples COMPONENT documentation)
 # The mesher writes here; the predictor reads "../temp/mesh.msh" beside the programs.
 install(DIRECTORY DESTINATION temp COMPONENT tools)
 
