@@ -10,6 +10,10 @@
 #include <basemodule/GlobalHelper.h>
 
 #include <algorithm>
+#include <iterator>
+#include <unordered_map>
+#include <utility>
+#include <vector>
 
 using BaseModule::CoordinateSystemType;
 using BaseModule::GlobalHelper;
@@ -18,24 +22,90 @@ namespace DataManager {
 
 namespace {
 
-QString typeText(const RelativeCoordinateSystem& system)
+QString typeText(const QList<QPair<int, CoordinateSystemType>>& chain)
 {
     QList<QPair<int, int>> levels;
-    for (const auto& level : system.getTypePairList()) {
+    levels.reserve(chain.size());
+    for (const auto& level : chain) {
         levels.append({level.first, level.second});
     }
     return GlobalHelper::convertIntIntQListToQString(levels);
 }
 
-template <class Value>
-QString chainText(const QList<QPair<int, Value>>& chain, QString (*valueText)(Value))
+template <class Value, QString (*ValueText)(Value)>
+QString chainText(const QList<QPair<int, Value>>& chain)
 {
     QList<QPair<int, QString>> levels;
     levels.reserve(chain.size());
     for (const auto& level : chain) {
-        levels.append({level.first, valueText(level.second)});
+        levels.append({level.first, ValueText(level.second)});
     }
     return GlobalHelper::convertIntQStringQListToQString(levels);
+}
+
+constexpr auto vectorText = chainText<QList<double>, GlobalHelper::convertDoubleListToQString>;
+constexpr auto stepText = chainText<QPair<QString, double>, GlobalHelper::convertQStringDoubleQPairToQString>;
+
+/// The text of a chain, as long as the chain stays as it is.
+template <class Value>
+class KnownText
+{
+public:
+    using Chain = QList<QPair<int, Value>>;
+
+    /// Sharing decides, not equality, for which 0.0 is -0.0. Whoever changes a chain detaches it from the copy held
+    /// here, and as long as that is held no other chain can have its address.
+    void follow(const Chain& chain, QString (*textOf)(const Chain&))
+    {
+        if (!m_chain.isSharedWith(chain)) {
+            m_text = textOf(chain);
+            m_chain = chain;
+        }
+    }
+
+    const QString& text() const { return m_text; }
+
+private:
+    Chain m_chain;
+    /// That of the empty chain, at first.
+    QString m_text;
+};
+
+/// The texts of a system's four chains.
+struct ChainTexts
+{
+    void follow(const RelativeCoordinateSystem& system)
+    {
+        types.follow(system.getTypePairList(), typeText);
+        offsets.follow(system.getOffsetCoordinateListPairList(), vectorText);
+        rotations.follow(system.getRotateDirectionListPairList(), vectorText);
+        actorRotations.follow(system.getActorRoateDirPairPairList(), stepText);
+    }
+
+    KnownText<CoordinateSystemType> types;
+    KnownText<QList<double>> offsets;
+    KnownText<QList<double>> rotations;
+    KnownText<QPair<QString, double>> actorRotations;
+};
+
+/// The texts of all systems but the first. Those of the last call are kept, because a rebuild writes all systems once
+/// for each of them; those of systems that are not written any more are dropped. Like the registry, what is kept is
+/// never destroyed, so that writing works while the process ends.
+std::vector<ChainTexts> chainTextsOf(const QList<RelativeCoordinateSystem*>& systems)
+{
+    using TextsOfSystem = std::unordered_map<const RelativeCoordinateSystem*, ChainTexts>;
+    static auto* const lastWritten = new TextsOfSystem;
+    TextsOfSystem written;
+    std::vector<ChainTexts> all;
+    for (int i = 1; i < systems.size(); ++i) {
+        const auto known = lastWritten->find(systems.at(i));
+        ChainTexts texts = known == lastWritten->end() ? ChainTexts() : known->second;
+        texts.follow(*systems.at(i));
+        written[systems.at(i)] = texts;
+        all.push_back(std::move(texts));
+    }
+    *lastWritten = std::move(written);
+    return all;
 }
 
 template <class Element, class Describe>
@@ -46,6 +116,15 @@ QList<Element> describeAll(const QList<RelativeCoordinateSystem*>& systems, Desc
         elements.append(describe(*systems.at(i)));
     }
     return elements;
+}
+
+template <class Choose>
+QList<QString> textsOf(const std::vector<ChainTexts>& systems, Choose choose)
+{
+    QList<QString> texts;
+    texts.reserve(static_cast<int>(systems.size()));
+    std::transform(systems.begin(), systems.end(), std::back_inserter(texts), choose);
+    return texts;
 }
 
 /// Where setting the levels of a stored chain one after the other has to begin: each level of an owner of 1 or more
@@ -91,16 +170,11 @@ void storeSystems(const QList<RelativeCoordinateSystem*>& systems, RelativeCoord
     record.setBasicCoorSysIDList(
         describeAll<int>(systems, [](const System& system) { return system.getBasicCoordinateSystemID(); }));
     record.setNameList(describeAll<QString>(systems, [](const System& system) { return system.getName(); }));
-    record.setTypeList(describeAll<QString>(systems, typeText));
-    record.setOffsetCoordinateList(describeAll<QString>(systems, [](const System& system) {
-        return chainText(system.getOffsetCoordinateListPairList(), GlobalHelper::convertDoubleListToQString);
-    }));
-    record.setRotateDirectionList(describeAll<QString>(systems, [](const System& system) {
-        return chainText(system.getRotateDirectionListPairList(), GlobalHelper::convertDoubleListToQString);
-    }));
-    record.setActorRoateDirList(describeAll<QString>(systems, [](const System& system) {
-        return chainText(system.getActorRoateDirPairPairList(), GlobalHelper::convertQStringDoubleQPairToQString);
-    }));
+    const std::vector<ChainTexts> texts = chainTextsOf(systems);
+    record.setTypeList(textsOf(texts, [](const ChainTexts& chains) { return chains.types.text(); }));
+    record.setOffsetCoordinateList(textsOf(texts, [](const ChainTexts& chains) { return chains.offsets.text(); }));
+    record.setRotateDirectionList(textsOf(texts, [](const ChainTexts& chains) { return chains.rotations.text(); }));
+    record.setActorRoateDirList(textsOf(texts, [](const ChainTexts& chains) { return chains.actorRotations.text(); }));
 }
 
 StoredSystems::StoredSystems(const RelativeCoordinateSystemDateManager& record)
