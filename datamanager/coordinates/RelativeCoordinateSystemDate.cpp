@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
+#include <utility>
 
 namespace DataManager {
 
@@ -41,8 +42,8 @@ RelativeCoordinateSystemDate::RelativeCoordinateSystemDate() = default;
 
 RelativeCoordinateSystemDate::~RelativeCoordinateSystemDate()
 {
-    qDeleteAll(m_coordinateSystemList);
-    m_coordinateSystemList.clear();
+    const QList<RelativeCoordinateSystem*> systems = std::exchange(m_coordinateSystemList, {});
+    qDeleteAll(systems);
 }
 
 RelativeCoordinateSystemDate* RelativeCoordinateSystemDate::getInstance()
@@ -108,7 +109,9 @@ void RelativeCoordinateSystemDate::removeCoordinateSystemByIndex(int index)
         return;
     }
     Q_EMIT signal_dataDeleted({system->getID()});
-    // A listener may have destroyed the system, or taken it out and so away from this registry.
+    // A listener may have destroyed the system, or taken it out and so away from this registry. Here and below, a
+    // system leaves the list before it is destroyed: receivers of its `destroyed` that look systems up, or write the
+    // file, must not meet one that is half gone.
     if (!system.isNull() && m_coordinateSystemList.removeOne(system)) {
         delete system.data();
     }

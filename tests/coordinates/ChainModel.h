@@ -8,6 +8,7 @@
 #include <QMap>
 
 #include <algorithm>
+#include <functional>
 
 /// What a system is, in plain data; its chains as the texts of their levels.
 struct PlainSystem
@@ -64,6 +65,22 @@ inline void setLevels(RegistryFixture::System& system, const LevelValues& values
     system.setOffsetCoordinate(&*offset.begin(), ownerID, basicID, modifyID);
     system.setRotateDirection(&*angles.begin(), ownerID, basicID, modifyID);
     system.setActorRotateDirection(values.step, ownerID, basicID, modifyID);
+}
+
+/// A system that is not registered, with a level of its own on top of its basic system's chains.
+inline RegistryFixture::System* makeSystem(int id, int basicID, const QString& name, int number)
+{
+    auto* const system = new RegistryFixture::System;
+    system->setID(id);
+    system->setBasicCoordinateSystemID(basicID);
+    system->setName(name);
+    setLevels(*system, LevelValues(number), id, basicID, -1);
+    return system;
+}
+
+inline void addGlobalSystem()
+{
+    setLevels(*RegistryFixture::add(0), LevelValues(0), 0, 0, -1);
 }
 
 inline PlainSystem plain(const RegistryFixture::System& system)

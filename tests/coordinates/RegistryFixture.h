@@ -14,9 +14,10 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
+#include <QStorageInfo>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 
 /// An empty registry and an empty project directory, for the time of one test function. Needs private access.
 class RegistryFixture
@@ -25,7 +26,9 @@ public:
     using System = DataManager::RelativeCoordinateSystem;
     using Registry = DataManager::RelativeCoordinateSystemDate;
 
-    RegistryFixture()
+    /// The project directory is made below `parent`.
+    explicit RegistryFixture(const QString& parent = quickDirectory())
+        : m_directory(parent + QStringLiteral("/coordinates-XXXXXX"))
     {
         destroyRegistry();
         System::resetMaxID();
@@ -79,10 +82,16 @@ public:
     }
 
 private:
-    /// In memory where the system offers that: every write waits for its disk, and there are thousands.
-    QTemporaryDir m_directory{QFileInfo(QStringLiteral("/dev/shm")).isWritable()
-                                  ? QStringLiteral("/dev/shm/coordinates-XXXXXX")
-                                  : QDir::tempPath() + QStringLiteral("/coordinates-XXXXXX")};
+    /// In memory where the system offers enough of it: every write waits for its disk, and there are thousands.
+    static QString quickDirectory()
+    {
+        constexpr qint64 enough = 32 * 1024 * 1024;
+        const QString memory = QStringLiteral("/dev/shm");
+        QTemporaryFile probe(memory + QStringLiteral("/coordinates-XXXXXX"));
+        return probe.open() && QStorageInfo(memory).bytesAvailable() >= enough ? memory : QDir::tempPath();
+    }
+
+    QTemporaryDir m_directory;
 };
 
 inline QString textOf(const QList<int>& ids)

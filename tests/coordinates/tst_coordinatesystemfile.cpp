@@ -8,6 +8,7 @@
 #include <datamanager/coordinates/RelativeCoordinateSystemDateManager.h>
 
 #include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -44,23 +45,11 @@ private:
 
     static RelativeCoordinateSystemDate* registry() { return RelativeCoordinateSystemDate::getInstance(); }
 
-    static RelativeCoordinateSystem* make(int id, int basicID, const QString& name, int number)
-    {
-        auto* const system = new RelativeCoordinateSystem;
-        system->setID(id);
-        system->setBasicCoordinateSystemID(basicID);
-        system->setName(name);
-        setLevels(*system, LevelValues(number), id, basicID, -1);
-        return system;
-    }
-
-    void addGlobal() { setLevels(*m_fixture->add(0), LevelValues(0), 0, 0, -1); }
-
     /// The global system and the systems of the file.
     void readFile(const QByteArray& content)
     {
         QVERIFY(m_fixture->setFileContent(content));
-        addGlobal();
+        addGlobalSystem();
         registry()->readConfig();
     }
 
@@ -80,7 +69,7 @@ private Q_SLOTS:
     {
         QFETCH(int, count);
         if (count == 1) {
-            addGlobal();
+            addGlobalSystem();
         }
         RegistryLog log;
         registry()->writeConfig();
@@ -95,7 +84,7 @@ private Q_SLOTS:
 
     void writesOneElementForEachSystem()
     {
-        addGlobal();
+        addGlobalSystem();
         auto* const system = m_fixture->add(3, 0);
         system->setName(QStringLiteral("Spindle"));
         double offset[3] = {1, 2.5, -3};
@@ -124,9 +113,9 @@ private Q_SLOTS:
         QFile file(QStringLiteral(DATAMANAGER_SOURCE_DIR "/docs/schemas/RelativeCoordinateSystemDate.schema.json"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QJsonObject schema = QJsonDocument::fromJson(file.readAll()).object();
-        addGlobal();
+        addGlobalSystem();
         for (int id = 1; id < 40; ++id) {
-            registry()->m_coordinateSystemList.append(make(id, id / 2, QStringLiteral("%;"), id * 1000 - 3));
+            registry()->m_coordinateSystemList.append(makeSystem(id, id / 2, QStringLiteral("%;"), id * 1000 - 3));
         }
         double awkward[3] = {std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN(),
                              -1e-300};
@@ -154,9 +143,9 @@ private Q_SLOTS:
 
     void writesAfterAppendingAndRemovingByID()
     {
-        addGlobal();
-        registry()->appendCoordinateSystem(make(3, 0, QString(), 1));
-        RelativeCoordinateSystem* const removed = make(5, 3, QString(), 2);
+        addGlobalSystem();
+        registry()->appendCoordinateSystem(makeSystem(3, 0, QString(), 1));
+        RelativeCoordinateSystem* const removed = makeSystem(5, 3, QString(), 2);
         registry()->appendCoordinateSystem(removed);
         QCOMPARE(parsed(m_fixture->fileContent()).value(QLatin1String("m_IDList")).toArray(), (QJsonArray{3, 5}));
         QCOMPARE(parsed(m_fixture->fileContent()).value(QLatin1String("m_basicCoorSysIDList")).toArray(),
@@ -176,7 +165,7 @@ private Q_SLOTS:
 
     void announcesAWriteThatFails()
     {
-        addGlobal();
+        addGlobalSystem();
         BaseModule::GlobalHelper::setProjectTempIODir(QFileInfo(m_fixture->path()).path() + QStringLiteral("/missing"));
         RegistryLog log;
         registry()->writeConfig();
@@ -199,7 +188,7 @@ private Q_SLOTS:
         if (isDirectory) {
             QVERIFY(QDir().mkpath(m_fixture->path()));
         }
-        addGlobal();
+        addGlobalSystem();
         m_fixture->add(3);
         m_fixture->add(5);
         registry()->resetData();
@@ -216,18 +205,27 @@ private Q_SLOTS:
     void readsBackWhatWasWritten_data()
     {
         QTest::addColumn<int>("count");
-        QTest::newRow("1") << 1;
-        QTest::newRow("10") << 10;
-        QTest::newRow("500") << 500;
+        QTest::addColumn<bool>("isInTemporaryDirectory");
+        QTest::newRow("1") << 1 << false;
+        QTest::newRow("10") << 10 << false;
+        // As a rule on a disk, which the quick directory is not.
+        QTest::newRow("10 in the temporary directory") << 10 << true;
+        QTest::newRow("500") << 500 << false;
     }
     void readsBackWhatWasWritten()
     {
         QFETCH(int, count);
+        QFETCH(bool, isInTemporaryDirectory);
+        if (isInTemporaryDirectory) {
+            m_fixture.reset();
+            m_fixture = std::make_unique<RegistryFixture>(QDir::tempPath());
+            QVERIFY(m_fixture->path().startsWith(QDir::tempPath()));
+        }
         std::mt19937 generator(static_cast<unsigned>(count));
-        addGlobal();
+        addGlobalSystem();
         for (int id = 1; id <= count; ++id) {
             const int basicID = static_cast<int>(generator() % static_cast<unsigned>(id));
-            registry()->m_coordinateSystemList.append(make(id, basicID, QString::number(id * 7), id));
+            registry()->m_coordinateSystemList.append(makeSystem(id, basicID, QString::number(id * 7), id));
         }
         registry()->writeConfig();
         const QList<PlainSystem> written = plainRegistry();
@@ -240,7 +238,7 @@ private Q_SLOTS:
 
     void announcesEachRebuiltSystemAfterItsWrite()
     {
-        addGlobal();
+        addGlobalSystem();
         QVERIFY(m_fixture->setFileContent(goodFile()));
         RegistryLog log;
         QList<QJsonArray> written;
@@ -308,7 +306,7 @@ private Q_SLOTS:
 
     void replacesTheHeldRecord()
     {
-        addGlobal();
+        addGlobalSystem();
         registry()->writeConfig();
         const auto record = registry()->m_dataManager;
         QVERIFY(m_fixture->setFileContent(QByteArray("{\"m_basicCoorSysIDList\": [8]}")));
@@ -317,12 +315,33 @@ private Q_SLOTS:
         QCOMPARE(registry()->m_dataManager->getBasicCoorSysIDList(), QList<int>{8});
     }
 
+    void leavesTheCurrentSystemAndTheSigns_data()
+    {
+        QTest::addColumn<bool>("newSign");
+        QTest::addColumn<bool>("switchSign");
+        QTest::newRow("new") << true << false;
+        QTest::newRow("switch") << false << true;
+    }
+    void leavesTheCurrentSystemAndTheSigns()
+    {
+        QFETCH(bool, newSign);
+        QFETCH(bool, switchSign);
+        registry()->setCurrentCoordinateSystemID(42);
+        registry()->setNeWCoordinateSystemSign(newSign);
+        registry()->setSwitchCoordinateSystemSign(switchSign);
+        readFile(goodFile());
+        QCOMPARE(m_fixture->ids(), (QList<int>{0, 3, 5, 9}));
+        QCOMPARE(registry()->getCurrentCoordinateSystemID(), 42);
+        QCOMPARE(registry()->getNeWCoordinateSystemSign(), newSign);
+        QCOMPARE(registry()->getSwitchCoordinateSystemSign(), switchSign);
+    }
+
     void keepsAwkwardNames()
     {
         const QString name = QString::fromUcs4(U"\"\\;:,%\n\u00e9\u6797\U0001F9ED") + QChar(0) + QLatin1Char('e');
-        addGlobal();
-        registry()->appendCoordinateSystem(make(1, 0, name, 1));
-        registry()->appendCoordinateSystem(make(2, 0, QChar(QChar::ByteOrderMark) + name, 2));
+        addGlobalSystem();
+        registry()->appendCoordinateSystem(makeSystem(1, 0, name, 1));
+        registry()->appendCoordinateSystem(makeSystem(2, 0, QChar(QChar::ByteOrderMark) + name, 2));
         setLevels(*registry()->getCoordinateSystemByID(2), LevelValues(1), 0, 0, 2);
         registry()->getCoordinateSystemByID(2)->setActorRotateDirection({name, 1}, 0, 0, 2);
         registry()->writeConfig();
@@ -339,7 +358,7 @@ private Q_SLOTS:
         registry()->dataToByteArray(&out);
         QCOMPARE(out, QByteArray("before "));
         QVERIFY(!m_fixture->hasFile());
-        addGlobal();
+        addGlobalSystem();
         RegistryLog log;
         registry()->dataToByteArray(nullptr);
         QVERIFY(!m_fixture->hasFile());
@@ -352,7 +371,7 @@ private Q_SLOTS:
     void appendsAFileThatExistsAsItIs()
     {
         QVERIFY(m_fixture->setFileContent("not written by us"));
-        addGlobal();
+        addGlobalSystem();
         RegistryLog log;
         QByteArray out;
         registry()->dataToByteArray(&out);
@@ -373,14 +392,14 @@ private Q_SLOTS:
         std::mt19937 generator(static_cast<unsigned>(seed));
         const auto below = [&generator](int end) { return static_cast<int>(generator() % static_cast<unsigned>(end)); };
         ChainModel model;
-        addGlobal();
+        addGlobalSystem();
         model.append(0, 0, QString(), 0);
         for (int step = 0, nextID = 1; step < 60; ++step) {
             const int position = below(model.systems.size());
             const int id = model.systems.at(position).id;
             const int choice = below(10);
             if (choice < 5) {
-                registry()->appendCoordinateSystem(make(nextID, id, QString::number(step), step));
+                registry()->appendCoordinateSystem(makeSystem(nextID, id, QString::number(step), step));
                 model.append(nextID++, id, QString::number(step), step);
             } else if (choice < 7) {
                 const int owner = below(nextID);

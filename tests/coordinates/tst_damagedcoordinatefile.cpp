@@ -6,6 +6,7 @@
 #include "RegistryFixture.h"
 
 #include <QTest>
+#include <QVector>
 
 #include <memory>
 #include <random>
@@ -23,13 +24,11 @@ private:
 
     static RelativeCoordinateSystemDate* registry() { return RelativeCoordinateSystemDate::getInstance(); }
 
-    void addGlobal() { setLevels(*m_fixture->add(0), LevelValues(0), 0, 0, -1); }
-
     /// The global system and the systems of the file.
     void readFile(const QByteArray& content)
     {
         QVERIFY(m_fixture->setFileContent(content));
-        addGlobal();
+        addGlobalSystem();
         registry()->readConfig();
     }
 
@@ -91,10 +90,64 @@ private Q_SLOTS:
         }
     }
 
+    void readsDeepChainsAndLoops_data()
+    {
+        QTest::addColumn<int>("count");
+        QTest::addColumn<int>("step");
+        QTest::addColumn<bool>("isLoop");
+        QTest::newRow("chain of 200") << 200 << -1 << false;
+        QTest::newRow("loop of 200, upwards") << 200 << -1 << true;
+        QTest::newRow("loop of 1000, downwards") << 1000 << 1 << true;
+    }
+    void readsDeepChainsAndLoops()
+    {
+        QFETCH(int, count);
+        QFETCH(int, step);
+        QFETCH(bool, isLoop);
+        QVector<QJsonArray> lists(7);
+        for (int id = 1; id <= count; ++id) {
+            const int above = id + step;
+            const bool isEnd = above < 1 || above > count;
+            const QString vector = QStringLiteral("%1:0,0,%1").arg(id);
+            const QVector<QJsonValue> values = {id,
+                                                isEnd ? (isLoop ? count + 1 - id : 0) : above,
+                                                QString::number(id),
+                                                QStringLiteral("%1:%1").arg(id),
+                                                vector,
+                                                vector,
+                                                QStringLiteral("%1:X,%1").arg(id)};
+            for (int list = 0; list < 7; ++list) {
+                lists[list].append(values.at(list));
+            }
+        }
+        readFile(fileOf(lists));
+        QCOMPARE(registry()->getRelativeCoordinateSystemDateCount(), count + 1);
+        // Read upwards, each system finds the one above it registered; downwards, only the last finds the first.
+        QStringList types;
+        QStringList vectors;
+        for (int id = 1; id <= count; ++id) {
+            if (step == -1 || id == 1 || id == count) {
+                types.append(QStringLiteral("%1 %1").arg(id));
+                vectors.append(QStringLiteral("%1 0 0 %1").arg(id));
+            }
+        }
+        if (!isLoop) {
+            types.prepend(LevelValues(0).texts(0).at(0));
+            vectors.prepend(LevelValues(0).texts(0).at(1));
+        }
+        QCOMPARE(chain(count, 0), types);
+        QCOMPARE(chain(count, 1), vectors);
+        QCOMPARE(chain(count, 2).mid(isLoop ? 0 : 1), vectors.mid(isLoop ? 0 : 1));
+        QCOMPARE(chain(count, 3).size(), types.size());
+        QCOMPARE(parsed(m_fixture->fileContent()).value(QLatin1String("m_IDList")).toArray(), lists.first());
+        RelativeCoordinateSystem* const last = registry()->getCoordinateSystemByIndex(count);
+        QCOMPARE(last->getRotateDirection().size(), types.size());
+    }
+
     void survivesAFileThatEndsAnywhere()
     {
         const QByteArray content = goodFile();
-        addGlobal();
+        addGlobalSystem();
         for (int length = 0; length < content.size() - 2; ++length) {
             QVERIFY(m_fixture->setFileContent(content.left(length)));
             registry()->readConfig();
@@ -107,7 +160,7 @@ private Q_SLOTS:
     {
         std::mt19937 generator(11);
         const QByteArray content = goodFile();
-        addGlobal();
+        addGlobalSystem();
         for (int i = 0; i < 300; ++i) {
             QByteArray damaged = content;
             damaged[static_cast<int>(generator() % static_cast<unsigned>(damaged.size()))] =

@@ -20,8 +20,6 @@ using DataManager::RelativeCoordinateSystemDateManager;
 namespace {
 
 using Systems = QList<QPointer<RelativeCoordinateSystem>>;
-/// What a listener does to the registry; the systems are those registered at first.
-using Interference = std::function<void(RelativeCoordinateSystemDate&, const Systems&)>;
 
 QStringList lines(const QVector<const char*>& texts)
 {
@@ -33,8 +31,6 @@ QStringList lines(const QVector<const char*>& texts)
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(Interference)
 
 class RelativeCoordinateSystemDateTest : public QObject
 {
@@ -58,34 +54,6 @@ private:
     {
         return static_cast<int>(
             std::count_if(systems.begin(), systems.end(), [](const auto& s) { return !s.isNull(); }));
-    }
-
-    static void addInterferences()
-    {
-        QTest::addColumn<Interference>("interfere");
-        QTest::newRow("clears") << Interference([](auto& systems, const auto&) { systems.clear(); });
-        QTest::newRow("resets") << Interference([](auto& systems, const auto&) { systems.resetData(); });
-        QTest::newRow("removes the same by ID")
-            << Interference([](auto& systems, const auto&) { systems.removeCoordinateSystemByID({3}); });
-        QTest::newRow("removes the same by index")
-            << Interference([](auto& systems, const auto&) { systems.removeCoordinateSystemByIndex(1); });
-        QTest::newRow("empties it") << Interference([](auto& systems, const auto&) {
-            while (systems.getRelativeCoordinateSystemDateCount() > 0) {
-                systems.removeCoordinateSystemByIndex(0);
-            }
-        });
-        QTest::newRow("appends") << Interference([](auto& systems, const auto&) {
-            auto* const system = new RelativeCoordinateSystem;
-            system->setID(8);
-            systems.appendCoordinateSystem(system);
-        });
-        QTest::newRow("takes out and destroys") << Interference([](auto& systems, const auto& known) {
-            systems.removeCoordinateSystemByID({3, 5});
-            delete known.at(1).data();
-            delete known.at(2).data();
-        });
-        QTest::newRow("sorts") << Interference([](auto& systems, const auto&) { systems.sort(); });
-        QTest::newRow("reads the file") << Interference([](auto& systems, const auto&) { systems.readConfig(); });
     }
 
 private Q_SLOTS:
@@ -295,6 +263,42 @@ private Q_SLOTS:
         QVERIFY(!m_fixture->hasFile());
     }
 
+    void writesIntoTheHeldRecord()
+    {
+        const Systems systems = addAll({0, 3, 5});
+        registry()->writeConfig();
+        const auto record = registry()->m_dataManager;
+        QCOMPARE(record->getIDList(), (QList<int>{3, 5}));
+        delete registry()->m_coordinateSystemList.takeAt(1);
+        registry()->writeConfig();
+        QCOMPARE(registry()->m_dataManager, record);
+        QCOMPARE(record->getIDList(), QList<int>{5});
+        QCOMPARE(record->getBasicCoorSysIDList(), QList<int>{0});
+        for (const QList<QString>& list :
+             {record->getNameList(), record->getTypeList(), record->getOffsetCoordinateList(),
+              record->getRotateDirectionList(), record->getActorRoateDirList()}) {
+            QCOMPARE(list, QList<QString>{QString()});
+        }
+    }
+
+    void resetsStepByStep()
+    {
+        addAll({0, 3});
+        registry()->writeConfig();
+        const auto countAndRecord = [] {
+            return QString::number(RelativeCoordinateSystem::getMaxID()) + QLatin1Char(' ') +
+                   textOf(registry()->m_dataManager->getIDList());
+        };
+        QStringList log;
+        connect(registry(), &RelativeCoordinateSystemDate::signal_dataDeleted, registry(),
+                [&] { log.append(QStringLiteral("deleted ") + countAndRecord()); });
+        connect(registry(), &RelativeCoordinateSystemDate::signal_dataChanged, registry(),
+                [&] { log.append(QStringLiteral("changed ") + countAndRecord()); });
+        registry()->resetData();
+        log.append(countAndRecord());
+        QCOMPARE(log, lines({"deleted 2 [3]", "changed 2 [3]", "0 []"}));
+    }
+
     void resetsTheHeldRecordExceptTheBasicIDs()
     {
         addAll({0, 3});
@@ -353,99 +357,6 @@ private Q_SLOTS:
         const Systems systems = addAll({0, 3});
         m_fixture->destroyRegistry();
         QCOMPARE(aliveCount(systems), 0);
-    }
-
-    void survivesListenersOfClear_data() { addInterferences(); }
-    void survivesListenersOfClear()
-    {
-        interfereWith([](RelativeCoordinateSystemDate& systems) { systems.clear(); });
-        QVERIFY(registry()->getRelativeCoordinateSystemDateCount() <= 1);
-    }
-
-    void survivesListenersOfReset_data() { addInterferences(); }
-    void survivesListenersOfReset()
-    {
-        interfereWith([](RelativeCoordinateSystemDate& systems) { systems.resetData(); });
-        QVERIFY(registry()->getRelativeCoordinateSystemDateCount() <= 1);
-    }
-
-    void survivesListenersOfRemovalByIndex_data() { addInterferences(); }
-    void survivesListenersOfRemovalByIndex()
-    {
-        interfereWith([](RelativeCoordinateSystemDate& systems) { systems.removeCoordinateSystemByIndex(1); });
-        QCOMPARE(registry()->getCoordinateSystemByID(3), nullptr);
-    }
-
-    void leavesAloneWhatAListenerTookOut()
-    {
-        const Systems systems = addAll({0, 3, 5});
-        bool isFirst = true;
-        connect(registry(), &RelativeCoordinateSystemDate::signal_dataDeleted, registry(), [&isFirst] {
-            if (std::exchange(isFirst, false)) {
-                registry()->removeCoordinateSystemByID({3});
-            }
-        });
-        registry()->removeCoordinateSystemByIndex(1);
-        QCOMPARE(m_fixture->ids(), (QList<int>{0, 5}));
-        QVERIFY(!systems.at(1).isNull());
-        delete systems.at(1).data();
-    }
-
-    void survivesListenersOfRemovalByID_data() { addInterferences(); }
-    void survivesListenersOfRemovalByID()
-    {
-        interfereWith([](RelativeCoordinateSystemDate& systems) { systems.removeCoordinateSystemByID({5, 3}); });
-        QCOMPARE(registry()->getCoordinateSystemByID(3), nullptr);
-        QCOMPARE(registry()->getCoordinateSystemByID(5), nullptr);
-    }
-
-    void survivesListenersOfWriting_data() { addInterferences(); }
-    void survivesListenersOfWriting()
-    {
-        QFETCH(Interference, interfere);
-        const Systems systems = addAll({0, 3, 5});
-        registry()->writeConfig();
-        bool isFirst = true;
-        Systems everRegistered = systems;
-        connect(BaseModule::IBaseSignal::getInstance(), &BaseModule::IBaseSignal::signal_updateWindowTitle, registry(),
-                [&] {
-                    for (RelativeCoordinateSystem* system : qAsConst(registry()->m_coordinateSystemList)) {
-                        everRegistered.append(system);
-                    }
-                    if (std::exchange(isFirst, false)) {
-                        interfere(*registry(), systems);
-                    }
-                });
-        registry()->readConfig();
-        QVERIFY(!isFirst);
-        deleteUnregistered(everRegistered);
-    }
-
-private:
-    /// Calls `operation` on the systems 0, 3 and 5 while the first listener of the first deletion interferes.
-    void interfereWith(const std::function<void(RelativeCoordinateSystemDate&)>& operation)
-    {
-        QFETCH(Interference, interfere);
-        const Systems systems = addAll({0, 3, 5});
-        bool isFirst = true;
-        connect(registry(), &RelativeCoordinateSystemDate::signal_dataDeleted, registry(), [&] {
-            if (std::exchange(isFirst, false)) {
-                interfere(*registry(), systems);
-            }
-        });
-        operation(*registry());
-        QVERIFY(!isFirst);
-        deleteUnregistered(systems);
-    }
-
-    /// The registry gave these up without destroying them.
-    static void deleteUnregistered(const Systems& systems)
-    {
-        for (const auto& system : systems) {
-            if (!system.isNull() && registry()->getIndexByCoordinateSystem(system) == -1) {
-                delete system.data();
-            }
-        }
     }
 };
 

@@ -193,6 +193,25 @@ private Q_SLOTS:
         QCOMPARE(int(system->m_type), 4);
     }
 
+    void keepsLevelsWhoseBasicSystemIsGlobalOrBelow_data()
+    {
+        QTest::addColumn<int>("basicID");
+        QTest::newRow("global") << 0;
+        QTest::newRow("below") << -2;
+    }
+    void keepsLevelsWhoseBasicSystemIsGlobalOrBelow()
+    {
+        QFETCH(int, basicID);
+        make(basicID, basicID, {0.5, 0, 0});
+        RelativeCoordinateSystem* const system = make(4, basicID, {0, 0.25, 0});
+        spoilCaches();
+        const Rotations expected = {{0.5, 0, 0}, {0, 0.25, 0}};
+        QCOMPARE(bitsOf(system->getRotateDirection()), bitsOf(expected));
+        const RelativeCoordinateSystem* const basic = RegistryFixture::registry()->getCoordinateSystemByID(basicID);
+        QCOMPARE(bitsOf(basic->m_rotateDirection), bitsOf({{-1, -2, -3}}));
+        QCOMPARE(int(basic->m_type), -77);
+    }
+
     void composesLevelByLevel()
     {
         make(0, 0, {0, 0, 0});
