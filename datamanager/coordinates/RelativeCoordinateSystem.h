@@ -74,8 +74,9 @@ public:
 
     /// The type of the last entry of the chain, which is then cached; with an empty chain the cached type.
     BaseModule::CoordinateSystemType getType();
-    /// The system's origin in global coordinates: the last offset of the chain, carried through the matrix of its
-    /// owner's basic system. The address of three cached doubles, which stay as they were when there is no such entry.
+    /// The system's origin in global coordinates: an offset of the chain, carried through the matrix of its owner's
+    /// basic system. The last entry whose owner, basic system and matrix all exist decides, which is the system's own
+    /// as a rule. The address of three cached doubles, which stay as they were when there is no such entry.
     double* getOffsetCoordinate();
     /// The angles (x, y, z) of every level of the chain, in radians, each carried through the rotations of its owner's
     /// basic system by `RelativeCoordinateSystemDate::getCSRotateDirection`. Cached here, and in every system that

@@ -26,8 +26,10 @@ void turnAboutSingleAxes(const QList<QList<double>>& rotations, double* vector);
 /// The rotations of a system's chain levels, each carried through the rotations of its owner's basic system, and so on
 /// up to the global system.
 ///
-/// Every system that takes part is evaluated once, without recursion, and so is every vector carried through it, so
-/// the cost grows with the square of the chain's depth. It is used for one call only: nothing outlives it.
+/// Every system that takes part is evaluated once, without recursion, and so is every vector carried through it. The
+/// cost grows with the square of the chain's depth while systems hold their inherited levels as they were, because
+/// those are the same vectors; with the cube when each system's inherited levels were modified. It is used for one call
+/// only: nothing outlives it.
 class RotationComposition
 {
 public:
