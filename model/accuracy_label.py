@@ -3,9 +3,9 @@
 """The quantity the score predicts: how well linear elements on a mesh follow quadratic fields.
 
 A field u = x'Hx/2 has a random symmetric H (independent normal entries, variance 1 on the diagonal and 1/2 beside it,
-which makes its law the same in every orientation). On one tetrahedron with its centroid at the origin, the gradient of u
-less that of its linear interpolant is Hx - g with g = 1/2 sum_i (x_i'H x_i) grad(lambda_i). The mean over the element and
-over H of the squared length is, exactly,
+which makes its law the same in every orientation). On one tetrahedron with its centroid at the origin, the gradient of
+u less that of its linear interpolant is Hx - g with g = 1/2 sum_i (x_i'H x_i) grad(lambda_i). The mean over the element
+and over H of the squared length is, exactly,
 
     2 trace(C) + 1/4 sum_ij grad(lambda_i).grad(lambda_j) (x_i.x_j)^2,     C = 1/20 sum_i x_i x_i'.
 

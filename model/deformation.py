@@ -32,7 +32,7 @@ def shortest_edges(points, tetrahedra):
 
 
 def jitter(points, tetrahedra, amount, moves):
-    """Moves every node by amount times its shortest edge times its row of moves, held back where an element would invert."""
+    """Moves every node by amount x its shortest edge x its row of moves, held back where an element would invert."""
     before = volumes(points, tetrahedra)
     step = amount * shortest_edges(points, tetrahedra)[:, None] * moves
     for _ in range(40):

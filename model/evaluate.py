@@ -10,7 +10,8 @@ from onnx import numpy_helper
 SHIPPED = pathlib.Path(__file__).resolve().parent / "mesh.onnx"
 
 OPERATIONS = {
-    "Log": np.log, "Max": np.maximum, "Min": np.minimum, "Sub": np.subtract, "Abs": np.abs, "Exp": np.exp, "Mul": np.multiply,
+    "Log": np.log, "Max": np.maximum, "Min": np.minimum, "Sub": np.subtract, "Abs": np.abs, "Exp": np.exp,
+    "Mul": np.multiply,
     "MatMul": np.matmul, "Gemm": lambda a, b, c: a @ b + c, "Tanh": np.tanh, "Sigmoid": lambda x: 1 / (1 + np.exp(-x)),
 }
 

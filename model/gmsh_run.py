@@ -57,7 +57,8 @@ def option_text(options):
 def run_once(geometry, options, size, folder):
     script, mesh = pathlib.Path(folder, "one.geo"), pathlib.Path(folder, "one.msh")
     mesh.unlink(missing_ok=True)
-    script.write_text('SetFactory("OpenCASCADE");\n' + geometry + "\n" + size_text(options, size) + option_text(options))
+    parts = ['SetFactory("OpenCASCADE");', geometry, size_text(options, size), option_text(options)]
+    script.write_text("\n".join(parts))
     try:
         subprocess.run(COMMAND, cwd=folder, env=ENVIRONMENT, timeout=SECONDS, stdout=subprocess.DEVNULL,
                        stderr=subprocess.DEVNULL, check=False)

@@ -11,6 +11,8 @@ from evaluate import scores
 from table import read_table
 from transform import logarithms
 
+MEASURES = ("Spearman", "mean absolute error")
+
 
 def rank(a, b):
     return spearmanr(a, b)[0]
@@ -20,9 +22,13 @@ def figures(score, order, truth):
     return f"{rank(order, truth):.4f} | {np.abs(score - truth).mean():.4f}"
 
 
+def heading(title, *columns):
+    print(f"\n## {title}\n\n| " + " | ".join(columns) + " |\n" + "|---" * len(columns) + "|")
+
+
 def comparison(table, train, test):
     truth, score = table.accuracy[test], scores(table.features[test])
-    print("\n## Against the baselines, unseen families\n\n| predictor | Spearman | mean absolute error |\n|---|---|---|")
+    heading("Against the baselines, unseen families", "predictor", *MEASURES)
     print(f"| **mesh.onnx** | {figures(score, score, truth)} |")
     for name, answer, order in all_baselines(table, train, test):
         print(f"| {name} | {figures(answer, order, truth)} |")
@@ -34,14 +40,14 @@ def with_sizes(table, train, test):
         return HistGradientBoostingRegressor(max_iter=400, random_state=1).fit(inputs[train], table.accuracy[train])
     x, truth = logarithms(table.features), table.accuracy[test]
     more = np.column_stack([x, table.sizeShare])
-    print("\n## What the means leave out\n\n| gradient-boosted trees on | Spearman | mean absolute error |\n|---|---|---|")
+    heading("What the means leave out", "gradient-boosted trees on", *MEASURES)
     for name, inputs in (("the features", x), ("the features and what uneven sizes cost", more)):
         answer = fitted(inputs).predict(inputs[test])
         print(f"| {name} | {figures(answer, answer, truth)} |")
 
 
 def per_family(table, test):
-    print("\n## Each unseen family\n\n| family | meshes | Spearman | mean absolute error | mean score - measured |\n|---|---|---|---|---|")
+    heading("Each unseen family", "family", "meshes", *MEASURES, "mean score - measured")
     for family in sorted(set(table.family[test])):
         rows = test & (table.family == family)
         score, truth = scores(table.features[rows]), table.accuracy[rows]
@@ -55,10 +61,11 @@ def subsets(table, test):
     optimised = np.array([int(row["optimise"]) > 0 for row in table.rows])
     ratio = np.array([float(row["ratio"]) for row in table.rows])
     ordinary = meshed & optimised & (algorithm != "initial") & ((grading == "even") | (ratio < 3))
-    parts = {"as meshed": meshed, "as meshed, optimised, size field within a factor of 3": ordinary, "stretched or jittered": ~meshed, "stretched 5 times or more": table.stretch >= 5}
+    parts = {"as meshed": meshed, "as meshed, optimised, size field within a factor of 3": ordinary,
+             "stretched or jittered": ~meshed, "stretched 5 times or more": table.stretch >= 5}
     parts.update({f"as meshed, sizes: {name}": meshed & (grading == name) for name in sorted(set(grading))})
     parts.update({f"as meshed, algorithm: {name}": meshed & (algorithm == name) for name in sorted(set(algorithm))})
-    print("\n## Parts of the unseen families\n\n| part | meshes | Spearman | mean absolute error |\n|---|---|---|---|")
+    heading("Parts of the unseen families", "part", "meshes", *MEASURES)
     for name, part in parts.items():
         rows = test & part
         score = scores(table.features[rows])
@@ -67,23 +74,23 @@ def subsets(table, test):
 
 def calibration(table, test):
     score, truth = scores(table.features[test]), table.accuracy[test]
-    print("\n## Calibration, unseen families\n\n| score | meshes | mean score | mean measured | 5 % to 95 % of measured |\n|---|---|---|---|---|")
+    heading("Calibration, unseen families", "score", "meshes", "mean score", "mean measured", "5 % to 95 % of measured")
     for low in np.arange(0, 1, 0.1):
         rows = (score >= low) & (score < low + 0.1)
         if rows.any():
             spread = np.percentile(truth[rows], [5, 95])
-            print(f"| {low:.1f} to {low + 0.1:.1f} | {rows.sum()} | {score[rows].mean():.3f} | {truth[rows].mean():.3f} "
-                  f"| {spread[0]:.3f} to {spread[1]:.3f} |")
+            print(f"| {low:.1f} to {low + 0.1:.1f} | {rows.sum()} | {score[rows].mean():.3f} "
+                  f"| {truth[rows].mean():.3f} | {spread[0]:.3f} to {spread[1]:.3f} |")
 
 
 def second_labels(table, test):
-    print("\n## Real solves, unseen families\n\n| measured | meshes | Spearman | mean absolute error "
-          "| Spearman, interpolation with it |\n|---|---|---|---|---|")
+    heading("Real solves, unseen families", "measured", "meshes", *MEASURES, "Spearman, interpolation with it")
     for name in ("poisson", "elasticity"):
         truth = getattr(table, name)
         rows = test & np.isfinite(truth)
         score = scores(table.features[rows])
-        print(f"| {name} | {rows.sum()} | {figures(score, score, truth[rows])} | {rank(table.accuracy[rows], truth[rows]):.4f} |")
+        labels = rank(table.accuracy[rows], truth[rows])
+        print(f"| {name} | {rows.sum()} | {figures(score, score, truth[rows])} | {labels:.4f} |")
 
 
 def main():

@@ -21,7 +21,8 @@ def square_axes(across, upward):
     far, parts = MARGIN + SIDE, []
     for tick in np.arange(0, 1.01, 0.2):
         at = SIDE * tick
-        parts.append(f'<path d="M{MARGIN + at:.0f} 20V{SIDE + 20}M{MARGIN} {SIDE + 20 - at:.0f}H{far}" stroke="#ddd"/>\n')
+        lines = f"M{MARGIN + at:.0f} 20V{SIDE + 20}M{MARGIN} {SIDE + 20 - at:.0f}H{far}"
+        parts.append(f'<path d="{lines}" stroke="#ddd"/>\n')
         parts.append(text(round(MARGIN + at), SIDE + 36, f"{tick:.1f}"))
         parts.append(text(MARGIN - 6, round(SIDE + 24 - at), f"{tick:.1f}", "end"))
     parts.append(f'<path d="M{MARGIN} {SIDE + 20}L{far} 20" stroke="#888" stroke-dasharray="4"/>\n')
@@ -54,7 +55,8 @@ def bars(table, train, test, path):
     for i, (name, value) in enumerate(errors):
         colour = "#009e73" if name == "mesh.onnx" else "#999"
         parts.append(text(230, 24 * i + 28, name.replace(">", "&gt;"), "end"))
-        parts.append(f'<rect x="240" y="{24 * i + 15}" width="{300 * value / longest:.0f}" height="17" fill="{colour}"/>\n')
+        width = f"{300 * value / longest:.0f}"
+        parts.append(f'<rect x="240" y="{24 * i + 15}" width="{width}" height="17" fill="{colour}"/>\n')
         parts.append(text(round(246 + 300 * value / longest), 24 * i + 28, f"{value:.3f}", "start"))
     parts.append(text(240, 24 * len(errors) + 30, "mean absolute error, unseen families", "start"))
     path.write_text("".join(parts) + "</svg>\n", encoding="ascii")

@@ -34,7 +34,8 @@ def read_table(path=DEFAULT):
         rows=rows, family=family, tested=np.isin(family, TEST_FAMILIES),
         features=np.column_stack([numbers(rows, name) for name in FEATURES]),
         **{name: numbers(rows, name) for name in
-           ["accuracy", "poisson", "elasticity", "minScaledJacobian", "sizeShare", "stretch", "jitter", "scale", "elements"]})
+           ["accuracy", "poisson", "elasticity", "minScaledJacobian", "sizeShare", "stretch", "jitter", "scale",
+            "elements"]})
 
 
 def data_hash(path=DEFAULT):

@@ -53,7 +53,8 @@ def main():
     write_onnx.write(out, values, {
         "name": NAME, "version": VERSION, "dataSha256": data_hash(path), "featureOrder": FEATURES,
         "trainingRanges": write_onnx.training_ranges(values),
-        "meaning": "ideal interpolation error / own interpolation error of linear elements, over random quadratic fields",
+        "meaning": "ideal interpolation error / own interpolation error of linear elements, "
+                   "over random quadratic fields",
         "trainedOn": f"{rows.sum()} meshes of {len(set(table.family[rows]))} geometry families",
         "licence": "BSD-3-Clause"})
     error = np.abs(scores(table.features, out) - table.accuracy)

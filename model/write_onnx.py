@@ -52,7 +52,8 @@ def constants(networks, mean, mixing, lowest, highest):
     parts = list(zip(*(network.weights() for network in networks)))
     first, direct = mixing @ np.hstack(parts[0]), mixing @ np.mean(parts[6], axis=0)
     return {
-        "lowest": of_all_features(lowest[:, None], -ANY_SIZE).T, "highest": of_all_features(highest[:, None], ANY_SIZE).T,
+        "lowest": of_all_features(lowest[:, None], -ANY_SIZE).T,
+        "highest": of_all_features(highest[:, None], ANY_SIZE).T,
         "fall": np.full((len(FEATURES), 1), -FALL),
         "weights1": of_all_features(first, 0.0), "biases1": (np.hstack(parts[1]) - mean @ first)[None],
         "weights2": block_diag(*parts[2]), "biases2": np.hstack(parts[3])[None],

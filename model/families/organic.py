@@ -29,7 +29,8 @@ def branching_tubes(r):
     text = "Cylinder(1) = {0, 0, 0, 0, 0, 1, 0.15};\n"
     for i in range(n):
         a, z, s = 2 * math.pi * (i + r.random()) / n, r.uniform(0.2, 0.7), r.uniform(0.2, 0.6)
-        text += f"Cylinder({i + 2}) = {{0, 0, {z}, {0.6 * math.cos(a)}, {0.6 * math.sin(a)}, {s}, {r.uniform(0.05, 0.12)}}};\n"
+        x, y, k = 0.6 * math.cos(a), 0.6 * math.sin(a), r.uniform(0.05, 0.12)
+        text += f"Cylinder({i + 2}) = {{0, 0, {z}, {x}, {y}, {s}, {k}}};\n"
     return text + _JOIN.format(f"2:{n + 1}"), 0.07 + 0.015 * n
 
 

@@ -41,7 +41,8 @@ def turned_bottle(r):
 
 def tapered_loft(r):
     k = r.uniform(0.15, 0.5, 3)
-    text = "".join(f"Circle({i + 1}) = {{0, 0, {0.6 * i}, {k[i]}}};\nCurve Loop({i + 1}) = {{{i + 1}}};\n" for i in range(3))
+    text = "".join(f"Circle({i + 1}) = {{0, 0, {0.6 * i}, {k[i]}}};\nCurve Loop({i + 1}) = {{{i + 1}}};\n"
+                   for i in range(3))
     return text + "ThruSections(1) = {1:3};", 1.2 * math.pi * (k ** 2).mean()
 
 
