@@ -155,12 +155,26 @@ bool MeshQualityReport::measure(const QString& path, const Progress& progress)
 void MeshQualityReport::take(Scan& scan)
 {
     measureElements(scan);
-    m_nodeCount = static_cast<qint64>(scan.nodes.size());
+    takeGeometry(scan);
     m_tags = std::move(scan.tags);
     m_physicalTags = std::move(scan.physicalTags);
     m_lines = std::move(scan.lines);
     m_skippedLines = std::move(scan.skippedLines);
     m_groupNames = scan.header.groupNames();
+}
+
+void MeshQualityReport::takeGeometry(Scan& scan)
+{
+    m_nodes.reserve(scan.nodes.size());
+    for (const Tetrahedron::Vector& node : scan.nodes) {
+        m_nodes.push_back({node.x, node.y, node.z});
+    }
+    for (NodeNumbers& numbers : scan.tetrahedra) {
+        for (int& number : numbers) {
+            --number;
+        }
+    }
+    m_corners = std::move(scan.tetrahedra);
 }
 
 void MeshQualityReport::measureElements(const Scan& scan)

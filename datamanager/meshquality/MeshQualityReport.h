@@ -129,7 +129,7 @@ public:
     QString problemText() const { return m_problemText; }
 
     /// Node lines read.
-    qint64 nodeCount() const { return m_nodeCount; }
+    qint64 nodeCount() const { return static_cast<qint64>(m_nodes.size()); }
     /// Tetrahedra measured. Their places in all lists below are those in the file.
     int elementCount() const { return static_cast<int>(m_tags.size()); }
     /// Tetrahedra with a negative, and with a zero volume.
@@ -149,6 +149,9 @@ public:
     int tag(int element) const { return m_tags[static_cast<std::size_t>(element)]; }
     int physicalTag(int element) const { return m_physicalTags[static_cast<std::size_t>(element)]; }
     qint64 line(int element) const { return m_lines[static_cast<std::size_t>(element)]; }
+    /// The places of the element's corners among the node lines read, from 0, and where a node lies.
+    const std::array<int, 4>& corners(int element) const { return m_corners[static_cast<std::size_t>(element)]; }
+    const std::array<double, 3>& node(qint64 place) const { return m_nodes[static_cast<std::size_t>(place)]; }
     /// Centre of the element's corners.
     std::array<double, 3> centroid(int element) const { return m_centroids[static_cast<std::size_t>(element)]; }
     Summary summary(Metric metric) const;
@@ -169,11 +172,11 @@ private:
 
     bool fail(Problem problem, const QString& text);
     void take(Scan& scan);
+    void takeGeometry(Scan& scan);
     void measureElements(const Scan& scan);
 
     Problem m_problem = Problem::None;
     QString m_problemText;
-    qint64 m_nodeCount = 0;
     int m_invertedCount = 0;
     int m_flatCount = 0;
     int m_duplicateNodeCount = 0;
@@ -183,6 +186,8 @@ private:
     std::vector<int> m_tags;
     std::vector<int> m_physicalTags;
     std::vector<qint64> m_lines;
+    std::vector<std::array<double, 3>> m_nodes;
+    std::vector<std::array<int, 4>> m_corners;
     std::vector<std::array<double, 3>> m_centroids;
     QMap<int, QString> m_groupNames;
 };
