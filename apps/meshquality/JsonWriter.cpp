@@ -76,7 +76,9 @@ void JsonWriter::startValue()
 
 void JsonWriter::startLine()
 {
-    m_text += '\n' + QByteArray(2 * m_depth, ' ');
+    if (m_layout == Layout::Indented) {
+        m_text += '\n' + QByteArray(2 * m_depth, ' ');
+    }
 }
 
 void JsonWriter::quote(const QString& text)

@@ -12,6 +12,14 @@ namespace MeshQuality {
 class JsonWriter
 {
 public:
+    enum class Layout : int
+    {
+        Indented,
+        OneLine
+    };
+
+    explicit JsonWriter(Layout layout = Layout::Indented) : m_layout(layout) {}
+
     void beginObject() { open('{'); }
     void endObject() { close('}'); }
     void beginArray() { open('['); }
@@ -36,6 +44,7 @@ private:
     void startLine();
     void quote(const QString& text);
 
+    Layout m_layout;
     QByteArray m_text;
     int m_depth = 0;
     bool m_isFirst = true;

@@ -18,6 +18,7 @@ class JsonWriterTest : public QObject
 
 private Q_SLOTS:
     void writesMembersInOrder();
+    void writesOneLine();
     void writesEmptyContainers();
     void escapesText();
     void writesNumbers_data();
@@ -39,6 +40,21 @@ void JsonWriterTest::writesMembersInOrder()
     json.endObject();
     json.endArray();
     QCOMPARE(json.text(), QByteArray("[\n  {\n    \"z\": 1,\n    \"a\": [\n      2,\n      \"x\"\n    ]\n  }\n]\n"));
+}
+
+void JsonWriterTest::writesOneLine()
+{
+    JsonWriter json(JsonWriter::Layout::OneLine);
+    json.beginObject();
+    json.key(QStringLiteral("a"));
+    json.beginArray();
+    json.value(qint64(2));
+    json.value(QStringLiteral("line\nend"));
+    json.endArray();
+    json.key(QStringLiteral("b"));
+    json.value(1.5);
+    json.endObject();
+    QCOMPARE(json.text(), QByteArray("{\"a\": [2,\"line\\u000aend\"],\"b\": 1.5}\n"));
 }
 
 void JsonWriterTest::writesEmptyContainers()
