@@ -4,6 +4,7 @@
 #include <meshquality/CheckCommand.h>
 
 #include <meshquality/Console.h>
+#include <meshquality/MeshInput.h>
 #include <meshquality/NumberText.h>
 #include <meshquality/Profile.h>
 
@@ -55,9 +56,9 @@ QString word(Verdict verdict)
 ExitCode checkMesh(const QString& file, const Profile& profile)
 {
     MeshQualityReport report;
-    if (!report.measure(file)) {
-        Console::printError(file, report.problemText());
-        return UnreadableInput;
+    const ExitCode exitCode = measureMesh(file, report);
+    if (exitCode != Success) {
+        return exitCode;
     }
     Verdict worst = Verdict::Pass;
     QStringList remarks;

@@ -18,7 +18,10 @@ const char* const helpText = R"(Quality of tetrahedral meshes in MSH 2 ASCII.
   meshquality report [OPTION...] MESH...
       Counts, means and spread of eleven metrics, and the model's score of each mesh.
       --json FILE         also as JSON into a file, or with - onto standard output instead of the table
+      --jsonl             one JSON object a line on standard output, as each mesh ends, instead of the table
       --csv FILE          all values, one line an element
+      --vtu FILE          the mesh with one cell array a metric, for ParaView
+      --html FILE         one web page with everything
       --worst N           the worst N elements
       --by METRIC         by which metric they are the worst (Shape)
       --histogram METRIC  how the values of a metric are spread

@@ -4,6 +4,7 @@
 #include <meshquality/CompareCommand.h>
 
 #include <meshquality/Console.h>
+#include <meshquality/MeshInput.h>
 #include <meshquality/ModelScore.h>
 #include <meshquality/NumberText.h>
 #include <meshquality/ScoredMesh.h>
@@ -115,9 +116,9 @@ QString comparison(const ScoredMesh& a, const ScoredMesh& b)
 ExitCode measure(const QString& file, ModelScore& model, const QString& modelFile, ScoredMesh& mesh)
 {
     mesh.file = file;
-    if (!mesh.report.measure(file)) {
-        Console::printError(file, mesh.report.problemText());
-        return UnreadableInput;
+    const ExitCode exitCode = measureMesh(file, mesh.report);
+    if (exitCode != Success) {
+        return exitCode;
     }
     if (!model.score(mesh.report.features(), mesh.score)) {
         Console::printError(modelFile, model.errorText());

@@ -35,39 +35,19 @@ QByteArray line(const MeshQualityReport& report, int element)
 
 CsvReport::CsvReport(const QString& path) : m_file(path)
 {
-    m_isOpen = !path.isEmpty() && m_file.open(QIODevice::WriteOnly);
-    writeHeader();
-}
-
-void CsvReport::writeHeader()
-{
-    if (m_isOpen) {
-        m_file.write("file,element,region,line,x,y,z");
-        for (int i = 0; i < MeshQualityReport::metricCount; ++i) {
-            m_file.write(',' + MeshQualityReport::metricName(static_cast<MeshQualityReport::Metric>(i)).toLatin1());
-        }
-        m_file.write("\n");
+    m_file.write("file,element,region,line,x,y,z");
+    for (int i = 0; i < MeshQualityReport::metricCount; ++i) {
+        m_file.write(',' + MeshQualityReport::metricName(static_cast<MeshQualityReport::Metric>(i)).toLatin1());
     }
+    m_file.write("\n");
 }
 
 void CsvReport::write(const ScoredMesh& mesh)
 {
     const QByteArray file = quoted(mesh.file) + ',';
-    for (int element = 0; m_isOpen && element < mesh.report.elementCount(); ++element) {
+    for (int element = 0; m_file.isWritable() && element < mesh.report.elementCount(); ++element) {
         m_file.write(file + line(mesh.report, element));
     }
-}
-
-bool CsvReport::commit()
-{
-    if (!m_isOpen) {
-        return m_file.fileName().isEmpty();
-    }
-    // A disk that fills up while the last bytes are flushed is not noticed by the commit.
-    if (!m_file.flush() || m_file.error() != QFileDevice::NoError) {
-        m_file.cancelWriting();
-    }
-    return m_file.commit();
 }
 
 } // namespace MeshQuality

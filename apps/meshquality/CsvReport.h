@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QSaveFile>
+#include <meshquality/ResultFile.h>
 
 namespace MeshQuality {
 
@@ -17,14 +17,11 @@ public:
     explicit CsvReport(const QString& path);
 
     void write(const ScoredMesh& mesh);
-    /// False when not all has reached the file.
-    bool commit();
+    /// False, after a message on standard error, when not all has reached the file.
+    bool commit() { return m_file.commit(); }
 
 private:
-    void writeHeader();
-
-    QSaveFile m_file;
-    bool m_isOpen = false;
+    ResultFile m_file;
 };
 
 } // namespace MeshQuality

@@ -133,11 +133,9 @@ void writeElement(const MeshQualityReport& report, int element, JsonWriter& json
 
 void writeWorst(const MeshQualityReport& report, const ReportOptions& options, JsonWriter& json)
 {
-    constexpr int unlessToldOtherwise = 10;
     json.key(QStringLiteral("worst"));
     json.beginArray();
-    for (const int element :
-         report.worst(options.worstBy, options.worstCount > 0 ? options.worstCount : unlessToldOtherwise)) {
+    for (const int element : report.worst(options.worstBy, options.worstListed())) {
         writeElement(report, element, json);
     }
     json.endArray();
@@ -158,6 +156,16 @@ void writeJson(const ScoredMesh& mesh, const ReportOptions& options, JsonWriter&
     writeMetrics(summaries(mesh.report), json);
     writeRegions(mesh.report, json);
     writeWorst(mesh.report, options, json);
+    json.endObject();
+}
+
+void writeJsonProblem(const QString& file, const QString& problem, JsonWriter& json)
+{
+    json.beginObject();
+    json.key(QStringLiteral("file"));
+    json.value(file);
+    json.key(QStringLiteral("problem"));
+    json.value(problem);
     json.endObject();
 }
 

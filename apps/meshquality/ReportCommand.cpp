@@ -5,13 +5,16 @@
 
 #include <meshquality/Console.h>
 #include <meshquality/CsvReport.h>
+#include <meshquality/HtmlReport.h>
 #include <meshquality/JsonReport.h>
 #include <meshquality/JsonWriter.h>
+#include <meshquality/MeshInput.h>
 #include <meshquality/ModelScore.h>
 #include <meshquality/ReportOptions.h>
 #include <meshquality/ScoredMesh.h>
 #include <meshquality/TextDetails.h>
 #include <meshquality/TextReport.h>
+#include <meshquality/VtuReport.h>
 
 #include <basemodule/GlobalHelper.h>
 
@@ -23,7 +26,7 @@ namespace {
 class Reporter
 {
 public:
-    explicit Reporter(const ReportOptions& options) : m_options(options), m_csv(options.csvFile) {}
+    explicit Reporter(const ReportOptions& options) : m_options(options), m_csv(options.csvFile), m_html(options) {}
 
     ExitCode run()
     {
@@ -43,9 +46,10 @@ private:
     {
         ScoredMesh mesh;
         mesh.file = file;
-        if (!mesh.report.measure(file)) {
-            Console::printError(file, mesh.report.problemText());
-            return UnreadableInput;
+        QString problem;
+        const ExitCode exitCode = measureMesh(file, mesh.report, problem);
+        if (exitCode != Success) {
+            return tellProblem(file, problem, exitCode);
         }
         if (!m_model.score(mesh.report.features(), mesh.score)) {
             return modelTrouble();
@@ -53,11 +57,32 @@ private:
         if (!m_options.jsonFile.isEmpty()) {
             writeJson(mesh, m_options, m_json);
         }
-        if (m_options.jsonFile != QLatin1String("-")) {
+        print(mesh);
+        m_csv.write(mesh);
+        m_html.write(mesh);
+        return m_options.vtuFile.isEmpty() || writeVtu(mesh, m_options.vtuFile) ? Success : UsageError;
+    }
+
+    ExitCode tellProblem(const QString& file, const QString& problem, ExitCode exitCode)
+    {
+        Console::printError(file, problem);
+        if (m_options.jsonLines) {
+            JsonWriter line(JsonWriter::Layout::OneLine);
+            writeJsonProblem(file, problem, line);
+            Console::print(QString::fromUtf8(line.text()));
+        }
+        return exitCode;
+    }
+
+    void print(const ScoredMesh& mesh)
+    {
+        if (m_options.jsonLines) {
+            JsonWriter line(JsonWriter::Layout::OneLine);
+            writeJson(mesh, m_options, line);
+            Console::print(QString::fromUtf8(line.text()));
+        } else if (m_options.jsonFile != QLatin1String("-")) {
             Console::print(textReport(mesh) + textDetails(mesh.report, m_options));
         }
-        m_csv.write(mesh);
-        return Success;
     }
 
     ExitCode modelTrouble()
@@ -69,10 +94,8 @@ private:
     ExitCode writeFiles()
     {
         const bool isCsvWritten = m_csv.commit();
-        if (!isCsvWritten) {
-            Console::printError(m_options.csvFile, QStringLiteral("cannot be written"));
-        }
-        return writeJsonFile() && isCsvWritten ? Success : UsageError;
+        const bool isHtmlWritten = m_html.commit();
+        return writeJsonFile() && isCsvWritten && isHtmlWritten ? Success : UsageError;
     }
 
     bool writeJsonFile()
@@ -92,6 +115,7 @@ private:
     ModelScore m_model;
     JsonWriter m_json;
     CsvReport m_csv;
+    HtmlReport m_html;
     ExitCode m_exitCode = Success;
 };
 

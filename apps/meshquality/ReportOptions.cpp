@@ -17,6 +17,9 @@ namespace {
 const QString json = QStringLiteral("json");
 const QString model = QStringLiteral("model");
 const QString csv = QStringLiteral("csv");
+const QString vtu = QStringLiteral("vtu");
+const QString html = QStringLiteral("html");
+const QString jsonLines = QStringLiteral("jsonl");
 const QString worst = QStringLiteral("worst");
 const QString by = QStringLiteral("by");
 const QString histogram = QStringLiteral("histogram");
@@ -24,10 +27,11 @@ const QString byRegion = QStringLiteral("by-region");
 
 void addOptions(QCommandLineParser& parser)
 {
-    for (const QString& name : {json, model, csv, worst, by, histogram}) {
+    for (const QString& name : {json, model, csv, vtu, html, worst, by, histogram}) {
         parser.addOption({name, QString(), QStringLiteral("VALUE")});
     }
     parser.addOption(QCommandLineOption(byRegion));
+    parser.addOption(QCommandLineOption(jsonLines));
 }
 
 /// What is wrong, or nothing.
@@ -65,10 +69,19 @@ QString readFiles(const QCommandLineParser& parser, ReportOptions& options)
     options.model = parser.isSet(model) ? parser.value(model) : ModelScore::defaultModel();
     options.jsonFile = parser.value(json);
     options.csvFile = parser.value(csv);
-    for (const QString& name : {json, csv, model}) {
+    options.vtuFile = parser.value(vtu);
+    options.htmlFile = parser.value(html);
+    options.jsonLines = parser.isSet(jsonLines);
+    for (const QString& name : {json, csv, vtu, html, model}) {
         if (parser.isSet(name) && parser.value(name).isEmpty()) {
             return QStringLiteral("--%1 needs a file").arg(name);
         }
+    }
+    if (parser.isSet(vtu) && options.meshes.size() > 1) {
+        return QStringLiteral("--vtu goes with one mesh");
+    }
+    if (options.jsonLines && options.jsonFile == QLatin1String("-")) {
+        return QStringLiteral("--jsonl and --json - both need standard output");
     }
     return options.meshes.isEmpty() ? QStringLiteral("no mesh is given") : QString();
 }

@@ -19,12 +19,19 @@ struct ReportOptions
     QString jsonFile;
     /// Empty: none.
     QString csvFile;
+    QString vtuFile;
+    QString htmlFile;
+    /// One JSON object a line on standard output, as each mesh ends, in place of the table.
+    bool jsonLines = false;
     /// How many of the worst elements are listed, and by which metric.
     int worstCount = 0;
     DataManager::MeshQualityReport::Metric worstBy = DataManager::MeshQualityReport::Metric::Shape;
     std::optional<DataManager::MeshQualityReport::Metric> histogram;
     bool byRegion = false;
     QStringList meshes;
+
+    /// How many of the worst elements go into files, which list some even when nobody asks.
+    int worstListed() const { return worstCount > 0 ? worstCount : 10; }
 };
 
 /// Reads the arguments of `meshquality report`, which begin with the command's name. False, after a message on standard

@@ -4,6 +4,7 @@
 #include <meshquality/TextDetails.h>
 
 #include <meshquality/NumberText.h>
+#include <meshquality/RegionName.h>
 #include <meshquality/ReportOptions.h>
 
 namespace MeshQuality {
@@ -16,11 +17,6 @@ namespace {
 QString column(double value)
 {
     return QString::fromLatin1(sixDigits(value)).rightJustified(13);
-}
-
-QString regionName(const QString& name, int tag)
-{
-    return name.isEmpty() ? QString::number(tag) : QStringLiteral("%1 \"%2\"").arg(tag).arg(name);
 }
 
 QString elementText(const MeshQualityReport& report, int element)

@@ -153,6 +153,10 @@ void MeshQualityProgramTest::refusesWrongCalls_data()
     row("report --jsn a.msh", "Unknown option 'jsn'.");
     row("report a.msh --model", "Missing value after '--model'.");
     row("report --json= a.msh", "--json needs a file");
+    row("report --vtu= a.msh", "--vtu needs a file");
+    row("report --html= a.msh", "--html needs a file");
+    row("report --vtu out.vtu a.msh b.msh", "--vtu goes with one mesh");
+    row("report --jsonl --json - a.msh", "--jsonl and --json - both need standard output");
     row("report --worst 0 a.msh", "--worst needs a number from 1");
     row("report --worst x a.msh", "--worst needs a number from 1");
     row("report --by Shape a.msh", "--by goes with --worst");
