@@ -6,6 +6,8 @@
 #include "LocaleScope.h"
 #include "RegistryFixture.h"
 
+#include <datamanager/coordinates/RelativeCoordinateSystemDateManager.h>
+
 #include <QTest>
 
 #include <array>
@@ -55,6 +57,14 @@ private:
         system.setOffsetCoordinate(vector.data(), -5, 0, -1);
         system.setRotateDirection(vector.data(), -5, 0, -1);
         system.setActorRotateDirection({QStringLiteral("X"), number}, -5, 0, -1);
+    }
+
+    /// The four lists of texts in the held record.
+    static QList<QList<QString>> writtenTexts()
+    {
+        const auto& record = *registry()->m_dataManager;
+        return {record.getTypeList(), record.getOffsetCoordinateList(), record.getRotateDirectionList(),
+                record.getActorRoateDirList()};
     }
 
     void addFour()
@@ -123,6 +133,35 @@ private Q_SLOTS:
         registry()->m_coordinateSystemList = systems;
         registry()->writeConfig();
         QCOMPARE(m_fixture->fileContent(), content);
+    }
+
+    /// Reading writes every system once for each of them, so the texts of those that stay must not be made anew.
+    void reusesTheTextsOfUnchangedChains()
+    {
+        addFour();
+        registry()->writeConfig();
+        const auto first = writtenTexts();
+        std::array<double, 3> vector = {7, 0, 8};
+        registry()->getCoordinateSystemByIndex(2)->setOffsetCoordinate(vector.data(), 0, 0, -5);
+        registry()->writeConfig();
+        const auto second = writtenTexts();
+        for (int list = 0; list < 4; ++list) {
+            for (int system = 0; system < 3; ++system) {
+                const bool isShared = first.at(list).at(system).constData() == second.at(list).at(system).constData();
+                QCOMPARE(isShared, !(list == 1 && system == 1));
+            }
+        }
+    }
+
+    void forgetsTheTextsOfSystemsThatAreGone()
+    {
+        addFour();
+        registry()->writeConfig();
+        const QList<QString> offsets = registry()->m_dataManager->getOffsetCoordinateList();
+        QVERIFY(!offsets.at(0).isDetached() && !offsets.at(1).isDetached());
+        registry()->removeCoordinateSystemByIndex(2);
+        registry()->writeConfig();
+        QVERIFY(!offsets.at(0).isDetached() && offsets.at(1).isDetached());
     }
 
     void tellsSystemsAtTheSameAddressApart()
