@@ -76,10 +76,10 @@ public:
     /// Without a readable file nothing happens; a damaged one gives the systems that are left in it, a list that ends
     /// early being continued with 0 or an empty text.
     ///
-    /// The cost grows with the square of the number of systems, because the whole file is written after each of them;
-    /// a file made by hand with many thousand IDs takes long. No limit is checked. The first write replaces the file
-    /// by one of the first system, the last one completes it again: what is not yet read is lost when the process is
-    /// killed in between.
+    /// The cost grows with the square of the number of systems, in a chain with the cube, because the whole file is
+    /// written after each of them; a file made by hand with many thousand IDs takes long. No limit is checked. The
+    /// first write replaces the file by one of the first system, the last one completes it again: what is not yet read
+    /// is lost when the process is killed in between.
     void readConfig();
     /// Writes all systems but the one at position 0 to that file and emits `IBaseSignal::signal_updateWindowTitle`,
     /// whether or not the file could be written.
