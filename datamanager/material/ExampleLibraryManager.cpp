@@ -6,8 +6,8 @@
 #include <datamanager/frame/RecordReader.h>
 #include <datamanager/frame/Singleton.h>
 #include <datamanager/material/private/LibraryFile.h>
+#include <datamanager/material/private/RecordCoverage.h>
 
-#include <basemodule/GlobalHelper.h>
 #include <basemodule/SerializerBase.h>
 #include <datamodel/ExampleLibData.h>
 
@@ -20,7 +20,7 @@ namespace {
 
 LibraryFile libraryFile(const QString& path)
 {
-    return {path, QStringLiteral("exampleList"), nullptr};
+    return {path, {&DataModel::ExampleLibData::staticMetaObject, &DataModel::ExampleData::staticMetaObject}, nullptr};
 }
 
 } // namespace
@@ -35,14 +35,15 @@ ExampleLibraryManager* ExampleLibraryManager::getInstance()
 ExampleLibraryManager::ExampleLibraryManager()
     : m_exampleLibPath(QCoreApplication::applicationDirPath() + QStringLiteral("/ConfigFiles/ExampleLibrary.json"))
 {
+    const LibraryFile file = libraryFile(m_exampleLibPath);
     QByteArray bytes;
-    if (!BaseModule::GlobalHelper::readFile(m_exampleLibPath, bytes)) {
+    if (!file.read(bytes)) {
         qDebug().noquote() << QStringLiteral("read Example file fail, please check path: %1").arg(m_exampleLibPath);
     }
     bool isParsed = false;
     m_exampleLibData = readRecord<DataModel::ExampleLibData>(bytes, &isParsed);
-    if (!isParsed) {
-        libraryFile(m_exampleLibPath).markUnreadable();
+    if (isParsed && recordCoverage(bytes, file.classes).isComplete) {
+        file.markHeld();
     }
     if (m_exampleLibData.isNull()) {
         qDebug() << "deserialize Example fail !";

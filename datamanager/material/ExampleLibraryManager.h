@@ -16,7 +16,7 @@ class ExampleLibData;
 namespace DataManager {
 
 /// Keeps the application's example library: one record, shared with the callers, that `saveData` writes as it is then.
-/// Failures of files and JSON go to the debug log. A file that cannot be read as an example library is copied to
+/// Failures of files and JSON go to the debug log. A file that was not loaded, or not without loss, is copied to
 /// "<name>.unreadable" before it is replaced. All calls come from the user-interface thread.
 class DATAMANAGER_EXPORT ExampleLibraryManager : public QObject
 {

@@ -14,7 +14,6 @@
 #include <datamodel/MaterialData.h>
 
 #include <QCoreApplication>
-#include <QFile>
 
 namespace DataManager {
 
@@ -84,10 +83,7 @@ void MaterialLibraryManager::writeProjectMatConfig()
 void MaterialLibraryManager::clearProjectMaterial()
 {
     m_projectMatMap.clear();
-    QFile file(projectLibraryPath());
-    if (file.exists()) {
-        file.remove();
-    }
+    removeMaterialLibrary(projectLibraryKind, projectLibraryPath());
     m_projectNextMatID = 1;
 }
 

@@ -24,8 +24,8 @@ namespace DataManager {
 ///
 /// Materials are numbered 1, 2, 3, ... in each library and never renumbered: a deleted material stays as a tombstone
 /// (`isDeleted`) until everything above it is deleted too. Every change is written to the library's file at once;
-/// failures of files and JSON go to the debug log and undo nothing. A file that cannot be read as a library is copied
-/// to "<name>.unreadable" before it is replaced. All calls come from the user-interface thread.
+/// failures of files and JSON go to the debug log and undo nothing. A file that was not loaded, or not without loss, is
+/// copied to "<name>.unreadable" before it is replaced or removed. All calls come from the user-interface thread.
 ///
 /// Records are shared with the callers: changing one changes the library, and the next save writes it.
 class DATAMANAGER_EXPORT MaterialLibraryManager : public QObject
@@ -41,7 +41,8 @@ public:
     void initProjectMaterial();
     /// Writes the project library: enciphered, or as plain JSON in the development configuration.
     void writeProjectMatConfig();
-    /// Empties the project library and removes its file. Call it when the project is closed. Signals nothing.
+    /// Empties the project library and removes its file. Call it when the project is closed. Signals nothing. When the
+    /// file could not be read and no copy of it can be kept, it stays.
     void clearProjectMaterial();
 
     /// Add a material under the next identifier and save. Names are not checked: ask `hasSameName` before. The property

@@ -104,27 +104,14 @@ QStringList HubLog::take()
     return lines;
 }
 
-QByteArray contentOf(const QString& path)
+QByteArray enciphered(const QByteArray& json)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeContent(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    QCOMPARE(file.write(content), qint64(content.size()));
+    return ConfigOption::TextCipher::getInstance()->encryptData_CBC(QString::fromUtf8(json)).toUtf8();
 }
 
 QByteArray decipheredContentOf(const QString& path)
 {
     return ConfigOption::TextCipher::getInstance()->decryptData_CBC(QString::fromUtf8(contentOf(path))).toUtf8();
-}
-
-void expectLine(const QString& line)
-{
-    QTest::ignoreMessage(QtDebugMsg, qPrintable(line));
 }
 
 void expectRefusedCipherText()

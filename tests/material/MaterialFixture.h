@@ -7,6 +7,7 @@
 
 #include <basemodule/MaterialLibType.h>
 #include <datamodel/MaterialData.h>
+#include <support/FilesAndLog.h>
 
 #include <QByteArray>
 #include <QObject>
@@ -64,13 +65,10 @@ private:
     QStringList m_lines;
 };
 
-/// The content of a file; null when there is none.
-QByteArray contentOf(const QString& path);
-void writeContent(const QString& path, const QByteArray& content);
+/// What stands in the file of a project library.
+QByteArray enciphered(const QByteArray& json);
 /// The library file's content as JSON whatever the development setting.
 QByteArray decipheredContentOf(const QString& path);
 
-/// Declares a debug log line that comes next.
-void expectLine(const QString& line);
 /// Declares the line of the cipher for a text that it refuses.
 void expectRefusedCipherText();

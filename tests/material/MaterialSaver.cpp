@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 
 // A process for others to kill: works on the project library in the directory that it is given.
+//
 //   materialsaver DIRECTORY save GENERATION   loads the library and saves it with every name set to GENERATION
-//   materialsaver DIRECTORY loop              saves generation 0, 1, 2, ... until it is killed; prints a line before
-//   each materialsaver DIRECTORY load              prints what the library holds
+//   materialsaver DIRECTORY loop              saves generation 0, 1, 2, ... until killed, a line printed before each
+//   materialsaver DIRECTORY load              prints what the library holds
 // A library is whole when it has all its materials and all of one generation.
 
 #include <datamanager/material/MaterialLibraryManager.h>

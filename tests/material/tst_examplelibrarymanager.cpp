@@ -4,6 +4,7 @@
 #include <datamanager/material/ExampleLibraryManager.h>
 
 #include <datamodel/ExampleLibData.h>
+#include <support/FilesAndLog.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -17,11 +18,6 @@ using DataModel::ExampleLibData;
 
 namespace {
 
-QString text(const char* utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
 QString directory()
 {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/ConfigFiles");
@@ -30,24 +26,6 @@ QString directory()
 QString path()
 {
     return directory() + QStringLiteral("/ExampleLibrary.json");
-}
-
-QByteArray content(const QString& file)
-{
-    QFile opened(file);
-    return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray();
-}
-
-void write(const QByteArray& bytes)
-{
-    QFile file(path());
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    QCOMPARE(file.write(bytes), qint64(bytes.size()));
-}
-
-void expectLine(const char* line)
-{
-    QTest::ignoreMessage(QtDebugMsg, qPrintable(text(line).arg(path())));
 }
 
 /// As a new process would have it.
@@ -102,6 +80,10 @@ private Q_SLOTS:
     void reads();
     void keepsUnreadableFiles();
     void offersTheSamples();
+    void keepsDamagedEntries_data();
+    void keepsDamagedEntries();
+    void keepsFilesThatWereOutOfReach();
+    void keepsNothingOfReadableFiles();
 };
 
 void TestExampleLibraryManager::init()
@@ -112,7 +94,7 @@ void TestExampleLibraryManager::init()
 
 void TestExampleLibraryManager::hasOneInstance()
 {
-    expectLine("read Example file fail, please check path: %1");
+    expectLine(text("read Example file fail, please check path: %1").arg(path()));
     ExampleLibraryManager* const first = ExampleLibraryManager::getInstance();
     QCOMPARE(ExampleLibraryManager::getInstance(), first);
     QVERIFY(first->parent() == nullptr);
@@ -120,7 +102,7 @@ void TestExampleLibraryManager::hasOneInstance()
 
 void TestExampleLibraryManager::startsWithDefaults()
 {
-    expectLine("read Example file fail, please check path: %1");
+    expectLine(text("read Example file fail, please check path: %1").arg(path()));
     const auto manager = newManager();
     const auto record = manager->getExampleLibData();
     QVERIFY(!record.isNull());
@@ -131,7 +113,7 @@ void TestExampleLibraryManager::startsWithDefaults()
 
 void TestExampleLibraryManager::returnsWhatWasSaved()
 {
-    expectLine("read Example file fail, please check path: %1");
+    expectLine(text("read Example file fail, please check path: %1").arg(path()));
     const auto manager = newManager();
     manager->getExampleLibData()->exampleList = {example(text("a")), example(text("例子"))};
     manager->saveData();
@@ -147,11 +129,11 @@ void TestExampleLibraryManager::returnsWhatWasSaved()
 
 void TestExampleLibraryManager::writesReadableMembers()
 {
-    expectLine("read Example file fail, please check path: %1");
+    expectLine(text("read Example file fail, please check path: %1").arg(path()));
     const auto manager = newManager();
     manager->getExampleLibData()->exampleList = {example(text("x"))};
     manager->saveData();
-    const QJsonObject root = QJsonDocument::fromJson(content(path())).object();
+    const QJsonObject root = QJsonDocument::fromJson(contentOf(path())).object();
     QCOMPARE(root.keys(), QStringList{text("exampleList")});
     const QJsonObject first = root.value(text("exampleList")).toArray().first().toObject();
     QCOMPARE(first.size(), 10);
@@ -160,22 +142,22 @@ void TestExampleLibraryManager::writesReadableMembers()
 
 void TestExampleLibraryManager::logsFailedWrites()
 {
-    expectLine("read Example file fail, please check path: %1");
+    expectLine(text("read Example file fail, please check path: %1").arg(path()));
     const auto manager = newManager();
     QVERIFY(QDir().mkpath(path()));
-    expectLine("write Example file fail, please check path: %1");
+    expectLine(text("write Example file fail, please check path: %1").arg(path()));
     manager->saveData();
     QVERIFY(QFileInfo(path()).isDir());
 }
 
 void TestExampleLibraryManager::logsRecordsThatCannotBeSerialized()
 {
-    write("{\"exampleList\":[]}");
+    writeContent(path(), "{\"exampleList\":[]}");
     const auto manager = newManager();
     manager->m_exampleLibData.reset();
     QTest::ignoreMessage(QtDebugMsg, "serialize Example fail !");
     manager->saveData();
-    QCOMPARE(content(path()), QByteArray("{\"exampleList\":[]}"));
+    QCOMPARE(contentOf(path()), QByteArray("{\"exampleList\":[]}"));
 }
 
 void TestExampleLibraryManager::reads_data()
@@ -196,25 +178,25 @@ void TestExampleLibraryManager::reads()
 {
     QFETCH(QByteArray, json);
     QFETCH(int, count);
-    write(json);
+    writeContent(path(), json);
     const auto manager = newManager();
     QVERIFY(!manager->getExampleLibData().isNull());
     QCOMPARE(manager->getExampleLibData()->exampleList.size(), count);
-    QCOMPARE(content(path()), json);
+    QCOMPARE(contentOf(path()), json);
     manager->saveData();
     QCOMPARE(newManager()->getExampleLibData()->exampleList.size(), count);
 }
 
 void TestExampleLibraryManager::keepsUnreadableFiles()
 {
-    write("not JSON");
+    writeContent(path(), "not JSON");
     newManager()->saveData();
-    QCOMPARE(content(path() + text(".unreadable")), QByteArray("not JSON"));
-    write("{\"materialList\":[]}");
+    QCOMPARE(contentOf(path() + text(".unreadable")), QByteArray("not JSON"));
+    writeContent(path(), "{\"materialList\":[]}");
     const auto manager = newManager();
     manager->saveData();
-    QCOMPARE(content(path() + text(".unreadable.1")), QByteArray("{\"materialList\":[]}"));
-    QCOMPARE(content(path()), QByteArray("{\"exampleList\":[]}"));
+    QCOMPARE(contentOf(path() + text(".unreadable.1")), QByteArray("{\"materialList\":[]}"));
+    QCOMPARE(contentOf(path()), QByteArray("{\"exampleList\":[]}"));
     manager->saveData();
     QVERIFY(!QFile::exists(path() + text(".unreadable.2")));
 }
@@ -235,6 +217,45 @@ void TestExampleLibraryManager::offersTheSamples()
             QVERIFY2(QFile::exists(samples + QLatin1Char('/') + QFileInfo(project).fileName()), qPrintable(project));
         }
     }
+}
+
+void TestExampleLibraryManager::keepsDamagedEntries_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::newRow("title as a number") << QByteArray(R"({"exampleList":[{"englishTitle":5}]})");
+    QTest::newRow("unknown member") << QByteArray(R"({"exampleList":[{"title":"t"}]})");
+    QTest::newRow("entry of another type") << QByteArray(R"({"exampleList":[5]})");
+    QTest::newRow("list twice") << QByteArray(R"({"exampleList":[],"exampleList":[]})");
+}
+
+void TestExampleLibraryManager::keepsDamagedEntries()
+{
+    QFETCH(QByteArray, json);
+    writeContent(path(), json);
+    newManager()->saveData();
+    QCOMPARE(contentOf(path() + text(".unreadable")), json);
+}
+
+void TestExampleLibraryManager::keepsFilesThatWereOutOfReach()
+{
+    expectLine(text("read Example file fail, please check path: %1").arg(path()));
+    const auto manager = newManager();
+    const QByteArray json = R"({"exampleList":[{"englishTitle":"t"}]})";
+    writeContent(path(), json);
+    manager->saveData();
+    QCOMPARE(contentOf(path() + text(".unreadable")), json);
+    QCOMPARE(contentOf(path()), QByteArray("{\"exampleList\":[]}"));
+}
+
+void TestExampleLibraryManager::keepsNothingOfReadableFiles()
+{
+    writeContent(path(), R"({"exampleList":[{"englishTitle":"t"},null]})");
+    const auto manager = newManager();
+    manager->saveData();
+    manager->saveData();
+    newManager()->saveData();
+    QCOMPARE(QDir(directory()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList{text("ExampleLibrary.json")});
 }
 
 QTEST_GUILESS_MAIN(TestExampleLibraryManager)

@@ -29,17 +29,10 @@ Function next(const char* mangledName)
     return reinterpret_cast<Function>(dlsym(RTLD_NEXT, mangledName));
 }
 
-void expectMessage(QtMsgType type, const QString& line)
+QStringList failedCreation(const char* className)
 {
-    QTest::ignoreMessage(type, qPrintable(line));
-}
-
-void expectFailedCreation(const char* className)
-{
-    expectMessage(QtCriticalMsg,
-                  QStringLiteral("Failed to create an instance of type %1").arg(QString::fromUtf8(className)));
-    expectMessage(QtCriticalMsg,
-                  QStringLiteral("Did you forget to declare a public parameterless Q_INVOKABLE constructor?"));
+    return {QStringLiteral("critical: Failed to create an instance of type ") + QString::fromUtf8(className),
+            QStringLiteral("critical: Did you forget to declare a public parameterless Q_INVOKABLE constructor?")};
 }
 
 } // namespace
@@ -106,38 +99,35 @@ void TestMaterialFailures::logsMaterialsThatCannotBeCreated()
     m_fixture->createProject(QStringLiteral("b"));
     const QByteArray softwareFile = contentOf(m_fixture->softwarePath());
     const QByteArray projectFile = contentOf(m_fixture->projectPath());
+    const QString softwareLine = QStringLiteral("Deserialize software material data array fail!");
+    const QString projectLine = QStringLiteral("Deserialize project material data array fail !");
     MaterialLibraryManager& manager = m_fixture->manager();
     isCreationFailing = true;
-    expectFailedCreation("DataModel::MaterialDataArray");
-    expectMessage(QtDebugMsg, QStringLiteral("Deserialize software material data array fail!"));
+    LogLines log;
     manager.initSoftwareMaterial();
+    QCOMPARE(log.take(), failedCreation("DataModel::MaterialDataArray") << softwareLine);
     // The software library's counter stays, the project's is set from the empty map.
     QCOMPARE(m_fixture->software(), QStringLiteral("next 2"));
-    expectFailedCreation("DataModel::MaterialDataArray");
-    expectMessage(QtDebugMsg, QStringLiteral("Deserialize project material data array fail !"));
     manager.initProjectMaterial();
+    QCOMPARE(log.take(), failedCreation("DataModel::MaterialDataArray") << projectLine);
     QCOMPARE(m_fixture->project(), QStringLiteral("next 1"));
+
+    // What was not read is not lost by the next save.
+    m_fixture->createSoftware(QStringLiteral("new"));
+    QCOMPARE(contentOf(m_fixture->softwarePath() + QStringLiteral(".unreadable")), softwareFile);
+    m_fixture->createProject(QStringLiteral("new"));
+    QCOMPARE(contentOf(m_fixture->projectPath() + QStringLiteral(".unreadable")), projectFile);
 
     // A missing software file is deserialised as an empty one, a missing project file is not.
     QVERIFY(QFile::remove(m_fixture->softwarePath()));
     QVERIFY(QFile::remove(m_fixture->projectPath()));
-    expectMessage(QtDebugMsg, QStringLiteral("Read software material library file fail, please check path: ") +
-                                  m_fixture->softwarePath());
-    expectFailedCreation("DataModel::MaterialDataArray");
-    expectMessage(QtDebugMsg, QStringLiteral("Deserialize software material data array fail!"));
     manager.initSoftwareMaterial();
-    expectMessage(QtDebugMsg, QStringLiteral("Read project material library file fail, please check path: ") +
-                                  m_fixture->projectPath());
+    QCOMPARE(log.take(), QStringList(QStringLiteral("Read software material library file fail, please check path: ") +
+                                     m_fixture->softwarePath())
+                             << failedCreation("DataModel::MaterialDataArray") << softwareLine);
     manager.initProjectMaterial();
-
-    // What was not read is not lost by the next save.
-    writeContent(m_fixture->softwarePath(), softwareFile);
-    writeContent(m_fixture->projectPath(), projectFile);
-    expectFailedCreation("DataModel::MaterialDataArray");
-    expectMessage(QtDebugMsg, QStringLiteral("Deserialize software material data array fail!"));
-    manager.initSoftwareMaterial();
-    m_fixture->createSoftware(QStringLiteral("new"));
-    QCOMPARE(contentOf(m_fixture->softwarePath() + QStringLiteral(".unreadable")), softwareFile);
+    QCOMPARE(log.take(), QStringList(QStringLiteral("Read project material library file fail, please check path: ") +
+                                     m_fixture->projectPath()));
 }
 
 void TestMaterialFailures::logsMaterialsThatCannotBeSerialized()
@@ -147,9 +137,9 @@ void TestMaterialFailures::logsMaterialsThatCannotBeSerialized()
     const QByteArray softwareFile = contentOf(m_fixture->softwarePath());
     const QByteArray projectFile = contentOf(m_fixture->projectPath());
     isSerializationFailing = true;
-    expectMessage(QtDebugMsg, QStringLiteral("Serialize software material data array fail!"));
+    expectLine(QStringLiteral("Serialize software material data array fail!"));
     m_fixture->createSoftware(QStringLiteral("b"));
-    expectMessage(QtDebugMsg, QStringLiteral("Serialize project material data array fail!"));
+    expectLine(QStringLiteral("Serialize project material data array fail!"));
     m_fixture->createProject(QStringLiteral("b"));
     QCOMPARE(contentOf(m_fixture->softwarePath()), softwareFile);
     QCOMPARE(contentOf(m_fixture->projectPath()), projectFile);
@@ -161,13 +151,14 @@ void TestMaterialFailures::logsExamplesThatCannotBeCreated()
 {
     isCreationFailing = true;
     const QString path = QCoreApplication::applicationDirPath() + QStringLiteral("/ConfigFiles/ExampleLibrary.json");
-    expectMessage(QtDebugMsg, QStringLiteral("read Example file fail, please check path: ") + path);
-    expectFailedCreation("DataModel::ExampleLibData");
-    expectMessage(QtDebugMsg, QStringLiteral("deserialize Example fail !"));
+    LogLines log;
     const std::unique_ptr<ExampleLibraryManager> manager(new ExampleLibraryManager);
+    QCOMPARE(log.take(), QStringList(QStringLiteral("read Example file fail, please check path: ") + path)
+                             << failedCreation("DataModel::ExampleLibData")
+                             << QStringLiteral("deserialize Example fail !"));
     QVERIFY(manager->getExampleLibData().isNull());
-    expectMessage(QtDebugMsg, QStringLiteral("serialize Example fail !"));
     manager->saveData();
+    QCOMPARE(log.take(), QStringList(QStringLiteral("serialize Example fail !")));
     QVERIFY(!QFile::exists(path));
 }
 
@@ -177,7 +168,7 @@ void TestMaterialFailures::logsExamplesThatCannotBeSerialized()
     writeContent(path, "{\"exampleList\":[]}");
     const std::unique_ptr<ExampleLibraryManager> manager(new ExampleLibraryManager);
     isSerializationFailing = true;
-    expectMessage(QtDebugMsg, QStringLiteral("serialize Example fail !"));
+    expectLine(QStringLiteral("serialize Example fail !"));
     manager->saveData();
     QCOMPARE(contentOf(path), QByteArray("{\"exampleList\":[]}"));
 }

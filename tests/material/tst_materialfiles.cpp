@@ -4,31 +4,25 @@
 #include "MaterialFixture.h"
 
 #include <basemodule/GlobalConfig.h>
-#include <basemodule/GlobalHelper.h>
-#include <configoption/TextCipher.h>
+#include <support/DirectoryWatch.h>
+#include <support/Nobody.h>
 
 #include <QDir>
 #include <QtTest>
 
-#include <climits>
 #include <cstring>
+#include <functional>
 #include <limits>
-#include <unistd.h>
+#include <sys/stat.h>
 
 using BaseModule::ProjectLib;
 using BaseModule::SoftwareLib;
+using Manager = DataManager::MaterialLibraryManager;
+using Change = std::function<void(Manager&)>;
+
+Q_DECLARE_METATYPE(Change)
 
 namespace {
-
-QString text(const char* utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-QByteArray enciphered(const QByteArray& json)
-{
-    return ConfigOption::TextCipher::getInstance()->encryptData_CBC(QString::fromUtf8(json)).toUtf8();
-}
 
 double doubleOf(quint64 bits)
 {
@@ -70,6 +64,13 @@ private Q_SLOTS:
     void logsFailedSaves();
     void keepsTheFileWhenEncipheringFails();
     void readsWhereNothingCanBeWritten();
+    void savesThroughSymbolicLinks();
+    void leavesReadOnlyFilesAlone();
+    void doesNotWaitForPipes();
+    void savesOnce_data();
+    void savesOnce();
+    void refusesChangedCipherTexts_data();
+    void refusesChangedCipherTexts();
 
 private:
     DataManager::MaterialLibraryManager& manager() { return m_fixture->manager(); }
@@ -414,9 +415,13 @@ void TestMaterialFiles::keepsTheFileWhenEncipheringFails()
     m_fixture->createProject(text("a"));
     const QByteArray before = contentOf(m_fixture->projectPath());
     qputenv("DATAMANAGER_CIPHER_KEY_FILE", "/nonexistent/key");
-    expectLine(text("Encrypt text fail!"));
-    expectLine(text("Write project material library file fail, please check path: %1.").arg(m_fixture->projectPath()));
+    LogLines log;
     m_fixture->createProject(text("b"));
+    QCOMPARE(
+        log.take(),
+        (QStringList{
+            text("Encrypt text fail!"),
+            text("Write project material library file fail, please check path: %1.").arg(m_fixture->projectPath())}));
     qunsetenv("DATAMANAGER_CIPHER_KEY_FILE");
     QCOMPARE(contentOf(m_fixture->projectPath()), before);
     QCOMPARE(m_fixture->project(), text("1:a 2:b next 3"));
@@ -428,25 +433,168 @@ void TestMaterialFiles::readsWhereNothingCanBeWritten()
     const QString path = directory.filePath(text("MaterialLibrary.json"));
     manager().m_softwareLibPath = path;
     m_fixture->createSoftware(text("a"));
-    const auto readOnly =
-        QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+    const auto readOnly = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+    QVERIFY(QFile::setPermissions(path, readOnly));
     QVERIFY(QFile::setPermissions(directory.path(), readOnly));
-    // Root may write everywhere, so the test goes on as nobody.
-    const bool isNobody = ::geteuid() == 0 && ::setresuid(65534, 65534, 0) == 0;
-    const auto restore = qScopeGuard([&] {
-        if (isNobody && ::setresuid(0, 0, 0) != 0) {
-            qFatal("cannot become root again");
-        }
-        QFile::setPermissions(directory.path(), readOnly | QFile::WriteOwner);
-    });
-    if (!QFileInfo(path).isReadable() || QFileInfo(directory.path()).isWritable()) {
-        QSKIP("permissions are not enforced on this user");
-    }
+    const auto restore = qScopeGuard([&] { QFile::setPermissions(directory.path(), readOnly | QFile::WriteOwner); });
+    const Nobody nobody;
+    QVERIFY(!QFileInfo(directory.path()).isWritable());
     manager().initSoftwareMaterial();
     QCOMPARE(m_fixture->software(), text("1:a next 2"));
     expectLine(text("Write software material library file fail, please check path: %1.").arg(path));
     m_fixture->createSoftware(text("b"));
     QCOMPARE(m_fixture->software(), text("1:a 2:b next 3"));
+}
+
+void TestMaterialFiles::savesThroughSymbolicLinks()
+{
+    const QString target = m_fixture->projectDirectory() + text("/elsewhere.json");
+    QVERIFY(QFile::link(target, m_fixture->projectPath()));
+    m_fixture->createProject(text("a"));
+    m_fixture->createProject(text("b"));
+    QVERIFY(QFileInfo(m_fixture->projectPath()).isSymLink());
+    QCOMPARE(contentOf(m_fixture->projectPath()), contentOf(target));
+    manager().initProjectMaterial();
+    QCOMPARE(m_fixture->project(), text("1:a 2:b next 3"));
+    QCOMPARE(QDir(m_fixture->projectDirectory()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+}
+
+void TestMaterialFiles::leavesReadOnlyFilesAlone()
+{
+    m_fixture->createProject(text("a"));
+    const QByteArray before = contentOf(m_fixture->projectPath());
+    const auto everything = QFile::Permissions(0x7777);
+    QVERIFY(QFile::setPermissions(m_fixture->projectDirectory(), everything));
+    QVERIFY(QFile::setPermissions(m_fixture->projectPath(), QFile::ReadOwner | QFile::ReadOther));
+    QStringList lines;
+    {
+        const Nobody nobody;
+        LogLines log;
+        manager().initProjectMaterial();
+        m_fixture->createProject(text("b"));
+        lines = log.take();
+    }
+    QCOMPARE(
+        lines,
+        QStringList{
+            text("Write project material library file fail, please check path: %1.").arg(m_fixture->projectPath())});
+    QCOMPARE(m_fixture->project(), text("1:a 2:b next 3"));
+    QCOMPARE(contentOf(m_fixture->projectPath()), before);
+    QCOMPARE(QDir(m_fixture->projectDirectory()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+
+/// A pipe that nobody writes to would block whoever opens it.
+void TestMaterialFiles::doesNotWaitForPipes()
+{
+    const QString path = m_fixture->projectPath();
+    QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0666), 0);
+    LogLines log;
+    manager().initProjectMaterial();
+    m_fixture->createProject(text("a"));
+    QCOMPARE(log.take(),
+             (QStringList{text("Read project material library file fail, please check path: ") + path,
+                          text("Write project material library file fail, please check path: %1.").arg(path)}));
+    QCOMPARE(m_fixture->project(), text("1:a next 2"));
+    manager().clearProjectMaterial();
+    QCOMPARE(log.take(), QStringList());
+    QVERIFY(QDir(m_fixture->projectDirectory()).isEmpty());
+}
+
+void TestMaterialFiles::savesOnce_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<int>("softwareSaves");
+    QTest::addColumn<int>("projectSaves");
+    const auto row = [](const char* name, const Change& change, int softwareSaves, int projectSaves) {
+        QTest::newRow(name) << change << softwareSaves << projectSaves;
+    };
+    row(
+        "create in project", [](Manager& m) { m.createProjectMat({}, text("x"), {}, {}, {}, {}, {}); }, 0, 1);
+    row(
+        "create in software", [](Manager& m) { m.createSoftwareMat({}, text("x"), {}, {}, {}, {}, {}); }, 1, 0);
+    row(
+        "update in project", [](Manager& m) { m.updateProjectMat(1, {}, text("x"), {}, {}, {}, {}, {}); }, 0, 1);
+    row(
+        "update in software", [](Manager& m) { m.updateSoftwareMat(1, {}, text("x"), {}, {}, {}, {}, {}); }, 1, 0);
+    row(
+        "tombstone in project", [](Manager& m) { m.deleteProjectMat(1); }, 0, 1);
+    row(
+        "tombstone in software", [](Manager& m) { m.deleteSoftwareMat(1); }, 1, 0);
+    row(
+        "trim in project", [](Manager& m) { m.deleteProjectMat(3); }, 0, 1);
+    row(
+        "trim in software", [](Manager& m) { m.deleteSoftwareMat(3); }, 1, 0);
+    row(
+        "import of many into project",
+        [](Manager& m) {
+            m.importMaterial(SoftwareLib, {1, 3, 1, 3});
+        },
+        0, 1);
+    row(
+        "import of many into software",
+        [](Manager& m) {
+            m.importMaterial(ProjectLib, {1, 3, 1, 3});
+        },
+        1, 0);
+    row(
+        "import of nothing", [](Manager& m) { m.importMaterial(SoftwareLib, {}); }, 0, 1);
+    row(
+        "import of all", [](Manager& m) { m.importAllMaterial(ProjectLib); }, 1, 0);
+    row(
+        "load", [](Manager& m) { m.initProjectMaterial(); }, 0, 0);
+    row(
+        "clear", [](Manager& m) { m.clearProjectMaterial(); }, 0, 0);
+    row(
+        "refused import",
+        [](Manager& m) {
+            m.importMaterial(SoftwareLib, {1, 99});
+        },
+        0, 0);
+    row(
+        "refused deletion", [](Manager& m) { m.deleteProjectMat(99); }, 0, 0);
+    row(
+        "refused update", [](Manager& m) { m.updateProjectMat(99, {}, text("x"), {}, {}, {}, {}, {}); }, 0, 0);
+}
+
+void TestMaterialFiles::savesOnce()
+{
+    QFETCH(Change, change);
+    QFETCH(int, softwareSaves);
+    QFETCH(int, projectSaves);
+    for (const char* const name : {"a", "b", "c"}) {
+        m_fixture->createSoftware(text(name));
+        m_fixture->createProject(text(name));
+    }
+    DirectoryWatch software(QFileInfo(m_fixture->softwarePath()).path());
+    DirectoryWatch project(m_fixture->projectDirectory());
+    change(manager());
+    QCOMPARE(software.take().count(text("moved MaterialLibrary.json")), softwareSaves);
+    QCOMPARE(project.take().count(text("moved MaterialLibrary.json")), projectSaves);
+}
+
+void TestMaterialFiles::refusesChangedCipherTexts_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("behind");
+    QTest::newRow("byte-order mark") << QByteArray("\xef\xbb\xbf") << QByteArray();
+    QTest::newRow("NUL") << QByteArray() << QByteArray(1, '\0');
+    QTest::newRow("NUL and more") << QByteArray() << QByteArray("\0more", 5);
+    QTest::newRow("line end") << QByteArray() << QByteArray("\n");
+    QTest::newRow("blank") << QByteArray(" ") << QByteArray();
+}
+
+void TestMaterialFiles::refusesChangedCipherTexts()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, behind);
+    m_fixture->createProject(text("a"));
+    const QByteArray changed = before + contentOf(m_fixture->projectPath()) + behind;
+    writeContent(m_fixture->projectPath(), changed);
+    expectLine(text("Decrypt text fail: it was not encrypted with this key."));
+    manager().initProjectMaterial();
+    QCOMPARE(m_fixture->project(), text("next 1"));
+    m_fixture->createProject(text("b"));
+    QCOMPARE(contentOf(m_fixture->projectPath() + text(".unreadable")), changed);
 }
 
 QTEST_GUILESS_MAIN(TestMaterialFiles)

@@ -20,11 +20,6 @@ namespace {
 
 const QStringList nothing;
 
-QString text(const char* utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
 } // namespace
 
 class TestMaterialImport : public QObject

@@ -21,11 +21,6 @@ namespace {
 const auto unknownLibrary = MaterialLibType(2);
 const QStringList nothing;
 
-QString text(const char* utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
 /// Both libraries through one face, so that every row runs on both.
 struct Library
 {

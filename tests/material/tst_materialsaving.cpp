@@ -26,11 +26,6 @@ namespace {
 
 constexpr int materialCount = 40;
 
-QString text(const char* utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
 QString saver()
 {
     return QStringLiteral(MATERIAL_SAVER);

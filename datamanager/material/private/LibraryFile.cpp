@@ -3,16 +3,16 @@
 
 #include <datamanager/material/private/LibraryFile.h>
 
+#include <datamanager/material/private/KeptCopy.h>
+#include <datamanager/material/private/RecordCoverage.h>
+
 #include <basemodule/GlobalHelper.h>
 
 #include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
 #include <QHash>
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
-
-#include <algorithm>
 
 namespace DataManager {
 
@@ -38,86 +38,83 @@ FileStamp stampOf(const QString& path)
     return {file.size(), file.lastModified(), file.metadataChangeTime()};
 }
 
-struct KnownFile
+enum class Content : int
 {
-    FileStamp stamp;
-    bool isReadable;
+    NeverLoaded, ///< not by this process
+    NotLoaded,   ///< the last attempt failed or lost something
+    Held         ///< loaded or written
 };
 
-/// What is known of files by path, so that a save need not read back what the save before it wrote.
+struct KnownFile
+{
+    Content content = Content::NeverLoaded;
+    FileStamp stamp; ///< of the file that was loaded or written
+};
+
 QHash<QString, KnownFile>& knownFiles()
 {
     static QHash<QString, KnownFile> files;
     return files;
 }
 
-bool isRecordList(const QJsonValue& list)
+bool isLibrary(const LibraryFile& file, const QByteArray& bytes)
 {
-    const QJsonArray records = list.toArray();
-    return list.isArray() && std::all_of(records.begin(), records.end(),
-                                         [](const QJsonValue& record) { return record.isObject() || record.isNull(); });
-}
-
-bool isReadable(const LibraryFile& file, const QByteArray& bytes)
-{
-    const auto known = knownFiles().constFind(file.path);
-    if (known != knownFiles().constEnd() && known->stamp == stampOf(file.path)) {
-        return known->isReadable;
-    }
     const QByteArray json = file.decipher == nullptr ? bytes : file.decipher(bytes);
-    return isRecordList(QJsonDocument::fromJson(json).object().value(file.listName));
+    return QJsonDocument::fromJson(json).isObject() && recordCoverage(json, file.classes).isComplete;
 }
 
-/// Under the first free name, unless one of the taken ones holds the same bytes already.
-bool keepCopy(const QString& path, const QByteArray& bytes)
+/// False when the file holds something that is neither in the library nor kept beside it. `isTrusted` says that a file
+/// which reads as a library may go although memory does not hold it.
+bool isDispensable(const LibraryFile& file, bool isTrusted)
 {
-    for (int number = 0;; ++number) {
-        const QString copy = path + QStringLiteral(".unreadable") +
-                             (number == 0 ? QString() : QLatin1Char('.') + QString::number(number));
-        const QFileInfo taken(copy);
-        if (!taken.exists() && !taken.isSymLink()) {
-            return GlobalHelper::writeFile(copy, bytes, QIODevice::WriteOnly | QIODevice::Truncate);
-        }
-        QByteArray kept;
-        if (GlobalHelper::readFile(copy, kept) && kept == bytes) {
-            return true;
-        }
-    }
-}
-
-bool isOwnWriting(const QString& path)
-{
-    const auto known = knownFiles().constFind(path);
-    return known != knownFiles().constEnd() && known->isReadable && known->stamp == stampOf(path);
-}
-
-/// False when the file holds something that is neither in the library nor kept beside it.
-bool isReplaceable(const LibraryFile& file)
-{
-    if (isOwnWriting(file.path) || !QFileInfo::exists(file.path)) {
-        return true;
-    }
     QByteArray bytes;
-    if (!GlobalHelper::readFile(file.path, bytes)) {
-        return false;
-    }
-    return bytes.isEmpty() || isReadable(file, bytes) || keepCopy(file.path, bytes);
+    return GlobalHelper::readFile(file.path, bytes) &&
+           (bytes.isEmpty() || (isTrusted && isLibrary(file, bytes)) || KeptCopy::keep(file.path, bytes));
 }
 
 } // namespace
 
+bool LibraryFile::read(QByteArray& bytes) const
+{
+    KeptCopy::removeAbandoned(path);
+    // Before reading, so that a change in between is noticed.
+    knownFiles().insert(path, {Content::NotLoaded, stampOf(path)});
+    return GlobalHelper::readFile(path, bytes);
+}
+
+void LibraryFile::markHeld() const
+{
+    knownFiles()[path].content = Content::Held;
+}
+
 bool LibraryFile::write(const QByteArray& bytes) const
 {
-    if (!isReplaceable(*this) || !GlobalHelper::writeFile(path, bytes, QIODevice::WriteOnly | QIODevice::Truncate)) {
+    const KnownFile known = knownFiles().value(path);
+    const bool isHeld = known.content == Content::Held;
+    const bool isUnchanged = isHeld && known.stamp == stampOf(path);
+    // What another process saved since is replaced like our own: the last one counts.
+    if (!isUnchanged && QFileInfo(path).isFile() && !isDispensable(*this, isHeld)) {
         return false;
     }
-    knownFiles().insert(path, {stampOf(path), true});
+    if (!GlobalHelper::writeFile(path, bytes, QIODevice::WriteOnly | QIODevice::Truncate)) {
+        return false;
+    }
+    knownFiles().insert(path, {Content::Held, stampOf(path)});
     return true;
 }
 
-void LibraryFile::markUnreadable() const
+bool LibraryFile::remove() const
 {
-    knownFiles().insert(path, {stampOf(path), false});
+    const KnownFile known = knownFiles().value(path);
+    const bool isUnchanged = known.content == Content::Held && known.stamp == stampOf(path);
+    const bool isKept =
+        isUnchanged || !QFileInfo(path).isFile() || isDispensable(*this, known.content != Content::NotLoaded);
+    if (QFile::exists(path) && (!isKept || !QFile::remove(path))) {
+        knownFiles().insert(path, {Content::NotLoaded, stampOf(path)});
+        return false;
+    }
+    knownFiles().remove(path);
+    return true;
 }
 
 } // namespace DataManager

@@ -5,23 +5,32 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QVector>
+
+struct QMetaObject;
 
 namespace DataManager {
 
-/// A JSON file whose root object holds a list of records. A file that is none is copied to "<path>.unreadable" (then
-/// "<path>.unreadable.1" and so on) before it is replaced: it may be damaged, foreign, or enciphered with another key,
-/// and what it holds is in no library.
+/// A JSON file of records, replaced and removed so that nothing is lost: what the file holds and memory never did is
+/// copied to "<path>.unreadable" (then "<path>.unreadable.1" and so on) first. It may be damaged, foreign, enciphered
+/// with another key, or just out of reach when it was to be read. What is known of a file is kept by its path.
 struct LibraryFile
 {
     QString path;
-    QString listName;                          ///< the root's member that holds the records
+    QVector<const QMetaObject*> classes;       ///< of the record at the root, of the records in its properties, ...
     QByteArray (*decipher)(const QByteArray&); ///< makes JSON of the file's bytes; null when they are JSON already
+
+    /// Reads the file; false, with `bytes` unchanged, on failure. Until `markHeld` the file counts as not loaded.
+    bool read(QByteArray& bytes) const;
+
+    /// Remembers that memory holds all that was last read.
+    void markHeld() const;
 
     /// Replaces the file as a whole; false, with the old file in place, on any failure.
     bool write(const QByteArray& bytes) const;
 
-    /// Remembers that the file, as it is now, could not be read as a library.
-    void markUnreadable() const;
+    /// Removes the file if there is one; false, with the file in place, on any failure.
+    bool remove() const;
 };
 
 } // namespace DataManager

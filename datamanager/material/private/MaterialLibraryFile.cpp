@@ -5,9 +5,9 @@
 
 #include <datamanager/frame/RecordReader.h>
 #include <datamanager/material/private/LibraryFile.h>
+#include <datamanager/material/private/RecordCoverage.h>
 
 #include <basemodule/GlobalConfig.h>
-#include <basemodule/GlobalHelper.h>
 #include <basemodule/SerializerBase.h>
 #include <configoption/TextCipher.h>
 #include <datamodel/MaterialDataArray.h>
@@ -18,24 +18,39 @@ namespace DataManager {
 
 namespace {
 
+using DataModel::MaterialData;
+using DataModel::MaterialDataArray;
+using DataModel::MaterialPropertyData;
+
 bool isEnciphered(const MaterialLibraryKind& kind)
 {
     return kind.isEnciphered && !GlobalConfig::getIsDevelop();
 }
 
+/// UTF-8 as it stands: QString::fromUtf8(QByteArray) ends at a NUL and leaves out a byte-order mark at the beginning,
+/// and so would make a good cipher text of a changed one.
+QString textOf(const QByteArray& bytes)
+{
+    const QString text = QString::fromUtf8(bytes.constData(), bytes.size());
+    return bytes.startsWith("\xef\xbb\xbf") ? QChar(QChar::ByteOrderMark) + text : text;
+}
+
 QByteArray decipher(const QByteArray& bytes)
 {
-    return ConfigOption::TextCipher::getInstance()->decryptData_CBC(QString::fromUtf8(bytes)).toUtf8();
+    return ConfigOption::TextCipher::getInstance()->decryptData_CBC(textOf(bytes)).toUtf8();
 }
 
 QByteArray encipher(const QByteArray& json)
 {
-    return ConfigOption::TextCipher::getInstance()->encryptData_CBC(QString::fromUtf8(json)).toUtf8();
+    return ConfigOption::TextCipher::getInstance()->encryptData_CBC(textOf(json)).toUtf8();
 }
 
 LibraryFile libraryFile(const QString& path, const MaterialLibraryKind& kind)
 {
-    return {path, QStringLiteral("materialList"), isEnciphered(kind) ? &decipher : nullptr};
+    return {path,
+            {&MaterialDataArray::staticMetaObject, &MaterialData::staticMetaObject,
+             &MaterialPropertyData::staticMetaObject},
+            isEnciphered(kind) ? &decipher : nullptr};
 }
 
 void logPath(const char* text, const QString& path)
@@ -43,15 +58,36 @@ void logPath(const char* text, const QString& path)
     qDebug().noquote() << QString::fromUtf8(text).arg(path);
 }
 
-/// False when no record could be made of the bytes.
-bool parse(const MaterialLibrary& library, const QString& path, const QByteArray& bytes)
+qint64 componentCount(const MaterialData& material)
 {
-    bool isParsed = false;
-    const auto content =
-        readRecord<DataModel::MaterialDataArray>(isEnciphered(library.kind) ? decipher(bytes) : bytes, &isParsed);
-    if (!isParsed) {
-        libraryFile(path, library.kind).markUnreadable();
+    qint64 count = 0;
+    for (const auto& property :
+         {material.property1, material.property2, material.property3, material.property4, material.property5}) {
+        count += property.isNull() ? 0 : property->components.size();
     }
+    return count;
+}
+
+/// Whether the library would be written back without losing anything of the text. `null` in place of a material is
+/// nothing to lose.
+bool isWhole(const MaterialMap& materials, const MaterialDataArray& content, const QByteArray& json,
+             const LibraryFile& file)
+{
+    const RecordCoverage coverage = recordCoverage(json, file.classes);
+    qint64 components = 0;
+    for (const auto& material : materials) {
+        components += componentCount(*material);
+    }
+    const int count = content.materialList.size() - content.materialList.count(nullptr);
+    return coverage.isComplete && coverage.valueCount == components && count == materials.size();
+}
+
+/// False when no record could be made of the bytes.
+bool parse(const MaterialLibrary& library, const LibraryFile& file, const QByteArray& bytes)
+{
+    const QByteArray json = isEnciphered(library.kind) ? decipher(bytes) : bytes;
+    bool isParsed = false;
+    const auto content = readRecord<MaterialDataArray>(json, &isParsed);
     if (content.isNull()) {
         qDebug() << library.kind.deserializeFailure;
         return false;
@@ -62,14 +98,17 @@ bool parse(const MaterialLibrary& library, const QString& path, const QByteArray
             library.materials.insert(material->id, material);
         }
     }
+    if (isParsed && isWhole(library.materials, *content, json, file)) {
+        file.markHeld();
+    }
     return true;
 }
 
 QByteArray jsonOf(const MaterialMap& materials)
 {
-    DataModel::MaterialDataArray content;
+    MaterialDataArray content;
     content.materialList = materials.values();
-    return QJsonHelper::SerializerBase::serialize(&content, DataModel::MaterialDataArray::staticMetaObject, false);
+    return QJsonHelper::SerializerBase::serialize(&content, MaterialDataArray::staticMetaObject, false);
 }
 
 } // namespace
@@ -77,13 +116,14 @@ QByteArray jsonOf(const MaterialMap& materials)
 void loadMaterialLibrary(MaterialLibrary library, const QString& path)
 {
     library.materials.clear();
+    const LibraryFile file = libraryFile(path, library.kind);
     QByteArray bytes;
-    const bool isRead = BaseModule::GlobalHelper::readFile(path, bytes);
+    const bool isRead = file.read(bytes);
     if (!isRead) {
         logPath(library.kind.readFailure, path);
     }
     const bool isParsing = isRead || library.kind.isApplicationWide;
-    if (isParsing && !parse(library, path, bytes) && library.kind.isApplicationWide) {
+    if (isParsing && !parse(library, file, bytes) && library.kind.isApplicationWide) {
         return;
     }
     library.nextID = library.materials.size() + 1;
@@ -102,6 +142,13 @@ void saveMaterialLibrary(const MaterialMap& materials, const MaterialLibraryKind
     // No bytes mean that enciphering failed: the file keeps what it has.
     if (bytes.isEmpty() || !libraryFile(path, kind).write(bytes)) {
         logPath(kind.writeFailure, path);
+    }
+}
+
+void removeMaterialLibrary(const MaterialLibraryKind& kind, const QString& path)
+{
+    if (!libraryFile(path, kind).remove()) {
+        logPath(kind.removeFailure, path);
     }
 }
 

@@ -15,6 +15,7 @@ const MaterialLibraryKind softwareLibraryKind = {
     "Deserialize software material data array fail!",
     "Serialize software material data array fail!",
     "Write software material library file fail, please check path: %1.",
+    "Remove software material library file fail, please check path: %1.",
     QT_TRANSLATE_NOOP("QObject", "Delete software material failed! material ID is not exists! id:%1."),
     QT_TRANSLATE_NOOP("QObject", "Import software material fail! materail id : %1 is not exist!"),
 };
@@ -27,6 +28,7 @@ const MaterialLibraryKind projectLibraryKind = {
     "Deserialize project material data array fail !",
     "Serialize project material data array fail!",
     "Write project material library file fail, please check path: %1.",
+    "Remove project material library file fail, please check path: %1.",
     QT_TRANSLATE_NOOP("QObject", "Delete project material failed! material ID is not exists! id:%1"),
     QT_TRANSLATE_NOOP("QObject", "Import project material fail! materail id : %1 is not exist!"),
 };

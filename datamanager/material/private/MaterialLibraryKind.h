@@ -17,6 +17,7 @@ struct MaterialLibraryKind
     const char* deserializeFailure;
     const char* serializeFailure;
     const char* writeFailure;
+    const char* removeFailure;
 
     // Messages to the user, untranslated; %1 is the identifier.
     const char* deleteFailure;
