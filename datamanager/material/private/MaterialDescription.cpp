@@ -16,9 +16,11 @@ QString describeMaterial(const DataModel::MaterialData* material)
         return QObject::tr("Material: Free Space");
     }
     const bool isChinese = ConfigOption::ConfigManager::getInstance()->getLanguage() == QLatin1String("Chinese");
-    const QByteArray name = (isChinese ? material->chineseName : material->englishName).toUtf8();
-    // Listeners have always been given the name up to its first NUL character.
-    return QObject::tr("Material: %1").arg(QString::fromUtf8(name.constData()));
+    const QString& name = isChinese ? material->chineseName : material->englishName;
+    // Listeners have always been given the name by way of UTF-8 up to its first NUL character. Coming back, a
+    // byte-order mark at the beginning would be left out, which is part of the name.
+    const QString mark = name.startsWith(QChar::ByteOrderMark) ? QString(QChar::ByteOrderMark) : QString();
+    return QObject::tr("Material: %1").arg(mark + QString::fromUtf8(name.toUtf8().constData()));
 }
 
 } // namespace DataManager

@@ -32,18 +32,31 @@ void signalDeletion(const MaterialLibraryKind& kind, int id)
     }
 }
 
-/// Listeners may change the library while they are told, so every step looks the map up anew.
+/// A listener created materials above the one being removed, so that this one is not the last any more: it stays as a
+/// tombstone. Without it a later load would count one identifier too few.
+void keepNumbering(MaterialLibrary& library, int id, const MaterialPointer& removed)
+{
+    if (library.nextID > id + 1 && !library.materials.contains(id)) {
+        removed->isDeleted = true;
+        library.materials.insert(id, removed);
+    }
+}
+
+/// Listeners may change the library while they are told: then the rest is as they left it.
 void removeLast(MaterialLibrary& library, int id)
 {
-    library.materials.remove(id);
     for (;;) {
+        const MaterialPointer removed = library.materials.take(id);
         signalDeletion(library.kind, id);
+        if (library.nextID != id + 1 || library.materials.contains(id)) {
+            keepNumbering(library, id, removed);
+            return;
+        }
         --library.nextID;
         --id;
         if (!isTombstone(library.materials, id)) {
             return;
         }
-        library.materials.remove(id);
     }
 }
 
