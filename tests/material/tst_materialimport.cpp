@@ -232,6 +232,12 @@ void TestMaterialImport::describesMaterials_data()
     row("ends at NUL in Chinese", "Chinese", text("铜") + withNul, text("x"), "Material: 铜co");
     row("empty name", "English", text("铜"), QString(), "Material: ");
     row("outside the basic plane", "English", text("铜"), text("\xf0\x9f\x94\xa9"), "Material: \xf0\x9f\x94\xa9");
+    const QString mark = QChar(QChar::ByteOrderMark);
+    row("byte-order mark", "English", text("铜"), mark + text("copper"),
+        "Material: \xef\xbb\xbf"
+        "copper");
+    row("two byte-order marks", "Chinese", mark + mark, text("x"), "Material: \xef\xbb\xbf\xef\xbb\xbf");
+    row("byte-order mark before NUL", "English", text("铜"), mark + QChar(0) + text("x"), "Material: \xef\xbb\xbf");
     row("placeholder", "English", text("铜"), text("%1 %2"), "Material: %1 %2");
 }
 

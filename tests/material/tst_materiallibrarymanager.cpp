@@ -87,7 +87,6 @@ private Q_SLOTS:
     void handsOutCopiesOfTheMap_data() { bothLibraries(); }
     void handsOutCopiesOfTheMap();
     void clearsTheProject();
-    void survivesListenersThatChangeTheLibrary();
 
 private:
     void bothLibraries();
@@ -398,32 +397,6 @@ void TestMaterialLibraryManager::clearsTheProject()
     QCOMPARE(log.take(), nothing);
     create(project, {text("c")});
     QCOMPARE(m_fixture->project(), text("1:c next 2"));
-}
-
-void TestMaterialLibraryManager::survivesListenersThatChangeTheLibrary()
-{
-    QObject context;
-    int depth = 0;
-    connect(BaseModule::IBaseSignal::getInstance(), &BaseModule::IBaseSignal::signal_delMatUpdateGeometryData, &context,
-            [this, &depth](int id) {
-                if (++depth > 3) {
-                    return;
-                }
-                manager().deleteProjectMat(id - 1);
-                manager().createProjectMat(text("new"), text("new"), {}, {}, {}, {}, {});
-                if (depth == 3) {
-                    manager().clearProjectMaterial();
-                }
-            });
-    create(project, {text("1"), text("2"), text("3"), text("4"), text("5")});
-    manager().deleteProjectMat(3);
-    manager().deleteProjectMat(5);
-    // Which state such listeners leave is theirs; the records in it must all be there.
-    const auto materials = manager().getMatLibDataByType(ProjectLib);
-    for (const auto& material : materials) {
-        QVERIFY(!material.isNull());
-    }
-    QCOMPARE(depth, 3);
 }
 
 QTEST_GUILESS_MAIN(TestMaterialLibraryManager)
