@@ -14,13 +14,36 @@
 #include <QCoreApplication>
 #include <QDebug>
 
+#include <type_traits>
+#include <utility>
+
 namespace DataManager {
 
 namespace {
 
+using DataModel::ExampleLibData;
+
+/// The class of the library and that of its examples, if it has a list of them: an application's own record library may
+/// keep them otherwise.
+template <class Library, class Example = std::decay_t<decltype(*std::declval<Library&>().exampleList.first())>>
+QVector<const QMetaObject*> recordClasses(const Library*)
+{
+    return {&Library::staticMetaObject, &Example::staticMetaObject};
+}
+
+[[maybe_unused]] QVector<const QMetaObject*> recordClasses(const QObject*)
+{
+    return {&ExampleLibData::staticMetaObject};
+}
+
 LibraryFile libraryFile(const QString& path)
 {
-    return {path, {&DataModel::ExampleLibData::staticMetaObject, &DataModel::ExampleData::staticMetaObject}, nullptr};
+    return {path, recordClasses(static_cast<const ExampleLibData*>(nullptr)), nullptr};
+}
+
+bool isWhole(const LibraryFile& file, const QByteArray& json, const ExampleLibData& record)
+{
+    return recordCoverage(json, file.classes).isComplete || !file.isComparable(record);
 }
 
 } // namespace
@@ -42,11 +65,10 @@ ExampleLibraryManager::ExampleLibraryManager()
     }
     bool isParsed = false;
     m_exampleLibData = readRecord<DataModel::ExampleLibData>(bytes, &isParsed);
-    if (isParsed && recordCoverage(bytes, file.classes).isComplete) {
-        file.markHeld();
-    }
     if (m_exampleLibData.isNull()) {
         qDebug() << "deserialize Example fail !";
+    } else if (isParsed && isWhole(file, bytes, *m_exampleLibData)) {
+        file.markHeld();
     }
 }
 

@@ -7,6 +7,7 @@
 #include <datamanager/material/private/RecordCoverage.h>
 
 #include <basemodule/GlobalHelper.h>
+#include <basemodule/SerializerBase.h>
 
 #include <QDateTime>
 #include <QFile>
@@ -85,6 +86,12 @@ bool LibraryFile::read(QByteArray& bytes) const
 void LibraryFile::markHeld() const
 {
     knownFiles()[path].content = Content::Held;
+}
+
+bool LibraryFile::isComparable(const QObject& record) const
+{
+    const QByteArray written = QJsonHelper::SerializerBase::serialize(&record, *classes.first(), false);
+    return recordCoverage(written, classes).isComplete;
 }
 
 bool LibraryFile::write(const QByteArray& bytes) const

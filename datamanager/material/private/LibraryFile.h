@@ -7,6 +7,7 @@
 #include <QString>
 #include <QVector>
 
+class QObject;
 struct QMetaObject;
 
 namespace DataManager {
@@ -25,6 +26,10 @@ struct LibraryFile
 
     /// Remembers that memory holds all that was last read.
     void markHeld() const;
+
+    /// Whether files can be compared with their records at all: an application's own base library may write another
+    /// form. `record` is one of the class at the root.
+    bool isComparable(const QObject& record) const;
 
     /// Replaces the file as a whole; false, with the old file in place, on any failure.
     bool write(const QByteArray& bytes) const;

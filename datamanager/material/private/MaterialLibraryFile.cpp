@@ -74,12 +74,15 @@ bool isWhole(const MaterialMap& materials, const MaterialDataArray& content, con
              const LibraryFile& file)
 {
     const RecordCoverage coverage = recordCoverage(json, file.classes);
+    if (!coverage.isComplete) {
+        return !file.isComparable(content);
+    }
     qint64 components = 0;
     for (const auto& material : materials) {
         components += componentCount(*material);
     }
     const int count = content.materialList.size() - content.materialList.count(nullptr);
-    return coverage.isComplete && coverage.valueCount == components && count == materials.size();
+    return coverage.valueCount == components && count == materials.size();
 }
 
 /// False when no record could be made of the bytes.
