@@ -104,6 +104,17 @@ void save(benchmark::State& state, bool isDevelop)
     perMaterial(state);
 }
 
+/// The first save after a load, as after every start.
+void loadAndSave(benchmark::State& state, bool isDevelop)
+{
+    MaterialLibraryManager& manager = loadedManager(int(state.range(0)), isDevelop);
+    for (auto _ : state) {
+        manager.initProjectMaterial();
+        manager.writeProjectMatConfig();
+    }
+    perMaterial(state);
+}
+
 void findByName(benchmark::State& state)
 {
     MaterialLibraryManager& manager = loadedManager(int(state.range(0)), true);
@@ -195,6 +206,8 @@ BENCHMARK_CAPTURE(load, plain, true)->Apply(sizes);
 BENCHMARK_CAPTURE(load, enciphered, false)->Apply(sizes);
 BENCHMARK_CAPTURE(save, plain, true)->Apply(sizes)->UseRealTime();
 BENCHMARK_CAPTURE(save, enciphered, false)->Apply(sizes)->UseRealTime();
+BENCHMARK_CAPTURE(loadAndSave, plain, true)->Apply(sizes)->UseRealTime();
+BENCHMARK_CAPTURE(loadAndSave, enciphered, false)->Apply(sizes)->UseRealTime();
 BENCHMARK(findByName)->Apply(sizes);
 BENCHMARK(checkName)->Apply(sizes);
 BENCHMARK(describe)->Apply(sizes);
