@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <openssl/crypto.h>
 #include <openssl/evp.h>
 
 #include <cstring>
@@ -49,13 +50,15 @@ QByteArray configuredSecret()
 bool derive(const QByteArray& secret, CipherKeys& keys)
 {
     std::array<unsigned char, sizeof keys.encryption + sizeof keys.integrity> bytes = {};
-    if (PKCS5_PBKDF2_HMAC(secret.constData(), secret.size(), reinterpret_cast<const unsigned char*>(salt),
-                          sizeof salt - 1, iterations, EVP_sha256(), bytes.size(), bytes.data()) != 1) {
-        return false;
+    const bool isDerived =
+        PKCS5_PBKDF2_HMAC(secret.constData(), secret.size(), reinterpret_cast<const unsigned char*>(salt),
+                          sizeof salt - 1, iterations, EVP_sha256(), bytes.size(), bytes.data()) == 1;
+    if (isDerived) {
+        std::memcpy(keys.encryption.data(), bytes.data(), keys.encryption.size());
+        std::memcpy(keys.integrity.data(), bytes.data() + keys.encryption.size(), keys.integrity.size());
     }
-    std::memcpy(keys.encryption.data(), bytes.data(), keys.encryption.size());
-    std::memcpy(keys.integrity.data(), bytes.data() + keys.encryption.size(), keys.integrity.size());
-    return true;
+    OPENSSL_cleanse(bytes.data(), bytes.size());
+    return isDerived;
 }
 
 } // namespace
@@ -70,6 +73,7 @@ const CipherKeys* cipherKeys()
     }
     if (secret != derivedFrom) {
         derivedFrom.clear();
+        OPENSSL_cleanse(&keys, sizeof keys);
         if (!derive(secret, keys)) {
             return nullptr;
         }
