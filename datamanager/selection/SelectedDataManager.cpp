@@ -6,11 +6,11 @@
 #include <datamanager/frame/Singleton.h>
 #include <datamanager/selection/private/Matching.h>
 #include <datamanager/selection/private/RecordPool.h>
+#include <datamanager/selection/private/Removal.h>
 #include <datamanager/selection/private/UnfinishedClear.h>
 
 #include <datamodel/SelectedDataBase.h>
 
-#include <algorithm>
 #include <iostream>
 
 namespace DataManager {
@@ -80,18 +80,7 @@ void SelectedDataManager::addSelectData(SelectModel model, int firstID, int seco
 void SelectedDataManager::removeSelectData(SelectModel model, int firstID, int secondID)
 {
     UnfinishedClear::settle(m_selectedDataList);
-    int lowestRemoved = -1;
-    for (int position = m_selectedDataList.size() - 1; position >= 0; --position) {
-        DataModel::SelectedDataBase* const record = m_selectedDataList.at(position);
-        if (matches(*record, model, firstID, secondID)) {
-            returnRecord(m_dataPool, record);
-            m_selectedDataList[position] = nullptr;
-            lowestRemoved = position;
-        }
-    }
-    if (lowestRemoved >= 0) {
-        UnfinishedClear::dropRemoved(m_selectedDataList, lowestRemoved);
-    }
+    removeMatches(m_selectedDataList, m_dataPool, model, firstID, secondID);
 }
 
 bool SelectedDataManager::hasSameSelectedData(SelectModel model, int firstID, int secondID) const

@@ -4,14 +4,16 @@
 #include <datamanager/selection/SelectedDataManager.h>
 
 #include <datamanager/selection/private/AcceptedPairs.h>
-#include <datamanager/selection/private/MatchIndex.h>
+#include <datamanager/selection/private/Collection.h>
+#include <datamanager/selection/private/PairLookup.h>
 #include <datamanager/selection/private/RecordPool.h>
+#include <datamanager/selection/private/Removal.h>
 #include <datamanager/selection/private/UnfinishedClear.h>
 
 #include <basemodule/IBaseSignal.h>
 #include <datamodel/SelectedDataBase.h>
 
-#include <optional>
+#include <vector>
 
 namespace DataManager {
 
@@ -19,9 +21,6 @@ using BaseModule::IBaseSignal;
 using BaseModule::SelectModel;
 
 namespace {
-
-/// Up to so many scans of the list cost less than an index, and they allocate nothing.
-constexpr int mostScans = 8;
 
 /// Tells the listeners of the pairs that a bulk call has added or removed. `items` is the store's list itself: it shows
 /// what earlier listeners have done to it.
@@ -38,78 +37,53 @@ void announceChange(SelectModel model, const PairList& pairs, bool isShow, const
     Q_EMIT hub->signal_refreshActionOnSelectDataChanged();
 }
 
-/// Removes the first match of each pair by one scan a pair.
-PairList removeByScan(RecordList& items, RecordPool& pool, SelectModel model, const PairList& pairs)
+/// What an item was before it was cleared.
+struct ClearedItem
 {
-    AcceptedPairs removed(pairs);
-    for (int i = 0; i < pairs.size(); ++i) {
-        const int position = firstMatch(items, model, pairs.at(i).first, pairs.at(i).second);
-        if (position < 0) {
-            removed.reject(i);
-            continue;
-        }
-        removed.accept(i);
-        returnRecordInPlace(pool, items.at(position));
-        items[position] = nullptr;
-        UnfinishedClear::dropRemoved(items, position);
-    }
-    return removed.pairs();
+    SelectModel model;
+    QPair<int, int> pair;
+};
+
+ClearedItem clearedItem(const DataModel::SelectedDataBase& item)
+{
+    return {item.getSelectModel(), identifiers(item)};
 }
 
-/// The same with an index; the list closes its gaps once, at the end.
-PairList removeByIndex(RecordList& items, RecordPool& pool, SelectModel model, const PairList& pairs)
+void announceCleared(const ClearedItem& item)
 {
-    AcceptedPairs removed(pairs);
-    MatchIndex index(items, model, MatchIndex::Order::FirstToLast);
-    for (int i = 0; i < pairs.size(); ++i) {
-        index.expect(pairs, i);
-        const int position = index.find(pairs.at(i).first, pairs.at(i).second);
-        if (position < 0) {
-            removed.reject(i);
-            continue;
-        }
-        removed.accept(i);
-        returnRecord(pool, items.at(position));
-        items[position] = nullptr;
+    Q_EMIT IBaseSignal::getInstance()->signal_updateViewObjectState(item.model, item.pair.first, item.pair.second,
+                                                                    false);
+}
+
+/// Tells of each item as it is cleared, while all of them are still in the list.
+void clearOneByOne(RecordList& items, RecordPool& pool)
+{
+    UnfinishedClear clear(items);
+    RecordReturn records(pool);
+    while (DataModel::SelectedDataBase* const record = clear.next()) {
+        const ClearedItem item = clearedItem(*record);
+        records.add(record);
+        announceCleared(item);
+    }
+}
+
+/// Clears everything before it tells of anything. Were a clearing within a clearing to go one by one, too, a listener
+/// that clears whenever it hears of a cleared item would nest as deep as there are items.
+void clearAtOnce(RecordList& items, RecordPool& pool)
+{
+    UnfinishedClear::settle(items);
+    std::vector<ClearedItem> cleared;
+    cleared.reserve(static_cast<std::size_t>(items.size()));
+    RecordReturn records(pool);
+    for (DataModel::SelectedDataBase*& record : items) {
+        cleared.push_back(clearedItem(*record));
+        records.add(record);
+        record = nullptr;
     }
     UnfinishedClear::dropRemoved(items);
-    return removed.pairs();
-}
-
-/// The pairs of the model's items with these first identifiers, identifier by identifier.
-PairList collectPairs(const RecordList& items, SelectModel model, const QList<int>& firstIDList)
-{
-    PairList collected;
-    std::optional<MatchIndex> index;
-    if (firstIDList.size() > mostScans) {
-        index.emplace(items, model, MatchIndex::Order::FirstToLast);
+    for (const ClearedItem& item : cleared) {
+        announceCleared(item);
     }
-    for (const int firstID : firstIDList) {
-        if (index) {
-            index->collectByFirstID(firstID, collected);
-            continue;
-        }
-        for (const DataModel::SelectedDataBase* const item : items) {
-            if (item->getSelectModel() == model && item->getFirstID() == firstID) {
-                collected.append(identifiers(*item));
-            }
-        }
-    }
-    return collected;
-}
-
-/// Removes all matches of each pair, those of one pair from the last to the first.
-void removeAllMatches(RecordList& items, RecordPool& pool, SelectModel model, const PairList& pairs)
-{
-    MatchIndex index(items, model, MatchIndex::Order::LastToFirst);
-    for (const QPair<int, int>& pair : pairs) {
-        for (int position = index.find(pair.first, pair.second); position >= 0;
-             position = index.find(pair.first, pair.second)) {
-            returnRecord(pool, items.at(position));
-            items[position] = nullptr;
-        }
-    }
-    UnfinishedClear::dropRemoved(items);
 }
 
 /// The project tree may change the selection of a dialog under these select models only.
@@ -124,24 +98,17 @@ void SelectedDataManager::addSelectedTargetList(SelectModel model, QList<QPair<i
 {
     UnfinishedClear::settle(m_selectedDataList);
     AcceptedPairs added(targetList);
-    std::optional<MatchIndex> index;
-    if (targetList.size() > mostScans) {
-        index.emplace(m_selectedDataList, model, MatchIndex::Order::LastToFirst, targetList.size());
-    }
+    PairLookup lookup(m_selectedDataList, model, targetList);
     for (int i = 0; i < targetList.size(); ++i) {
-        if (index) {
-            index->expect(targetList, i);
-        }
-        const auto [firstID, secondID] = targetList.at(i);
-        if (index ? index->find(firstID, secondID) >= 0 : hasSameSelectedData(model, firstID, secondID)) {
+        if (lookup.isSelected(i)) {
             added.reject(i);
             continue;
         }
         added.accept(i);
-        addSelectData(model, firstID, secondID);
+        addSelectData(model, targetList.at(i).first, targetList.at(i).second);
         // A closed pool has appended nothing.
-        if (index && !m_isPoolClosed) {
-            index->append();
+        if (!m_isPoolClosed) {
+            lookup.append();
         }
     }
     announceChange(model, added.pairs(), true, m_selectedDataList);
@@ -150,8 +117,7 @@ void SelectedDataManager::addSelectedTargetList(SelectModel model, QList<QPair<i
 void SelectedDataManager::removeSelectedTargetList(SelectModel model, QList<QPair<int, int>> targetList)
 {
     UnfinishedClear::settle(m_selectedDataList);
-    const auto removeMatches = targetList.size() > mostScans ? removeByIndex : removeByScan;
-    const PairList removed = removeMatches(m_selectedDataList, m_dataPool, model, targetList);
+    const PairList removed = removeFirstMatches(m_selectedDataList, m_dataPool, model, targetList);
     announceChange(model, removed, false, m_selectedDataList);
 }
 
@@ -173,28 +139,15 @@ void SelectedDataManager::removeSelectedTargets(SelectModel model, QList<int> fi
 {
     UnfinishedClear::settle(m_selectedDataList);
     const PairList collected = collectPairs(m_selectedDataList, model, firstIDList);
-    if (collected.size() > mostScans) {
-        removeAllMatches(m_selectedDataList, m_dataPool, model, collected);
-    } else {
-        for (const QPair<int, int>& pair : collected) {
-            removeSelectData(model, pair.first, pair.second);
-        }
-    }
+    removeAllMatches(m_selectedDataList, m_dataPool, model, collected);
     Q_EMIT IBaseSignal::getInstance()->signal_setViewObjectListState(model, collected, false);
 }
 
 void SelectedDataManager::clearAllSelectedTarget()
 {
+    const auto clear = UnfinishedClear::isUnderWay(m_selectedDataList) ? clearAtOnce : clearOneByOne;
+    clear(m_selectedDataList, m_dataPool);
     IBaseSignal* const hub = IBaseSignal::getInstance();
-    {
-        UnfinishedClear clear(m_selectedDataList);
-        while (DataModel::SelectedDataBase* const item = clear.next()) {
-            const SelectModel model = item->getSelectModel();
-            const auto [firstID, secondID] = identifiers(*item);
-            returnRecord(m_dataPool, item);
-            Q_EMIT hub->signal_updateViewObjectState(model, firstID, secondID, false);
-        }
-    }
     Q_EMIT hub->signal_updateGeomrtryActorTransparency(m_selectedDataList);
     Q_EMIT hub->signal_clearAllHighLight();
     Q_EMIT hub->signal_refreshActionOnSelectDataChanged();

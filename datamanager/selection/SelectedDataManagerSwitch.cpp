@@ -4,7 +4,7 @@
 #include <datamanager/selection/SelectedDataManager.h>
 
 #include <datamanager/selection/private/Matching.h>
-#include <datamanager/selection/private/RecordPool.h>
+#include <datamanager/selection/private/Removal.h>
 #include <datamanager/selection/private/UnfinishedClear.h>
 
 #include <basemodule/IBaseSignal.h>
@@ -21,10 +21,11 @@ using BaseModule::SelectModel;
 
 namespace {
 
-/// A list of one pair whose memory is used again as soon as no listener holds it any more.
+/// A list of one pair whose memory is used again as soon as no listener holds it any more. It is never destroyed, like
+/// the store, which static objects may call until the process ends.
 PairList singlePair(int firstID, int secondID)
 {
-    static PairList pairs{{0, 0}};
+    static PairList& pairs = *new PairList{{0, 0}};
     pairs[0] = {firstID, secondID};
     return pairs;
 }
@@ -49,6 +50,29 @@ bool isHighLight(const RecordList& items, int id, bool (*isModel)(SelectModel))
     return std::any_of(items.begin(), items.end(), [id, isModel](const DataModel::SelectedDataBase* item) {
         return item->getFirstID() == id && isModel(item->getSelectModel());
     });
+}
+
+bool isHighLightAllowed(SelectModel model, int firstID, int secondID)
+{
+    bool isAllowed = true;
+    Q_EMIT IBaseSignal::getInstance()->signal_checkHighLight(isAllowed, model, firstID, secondID);
+    return isAllowed;
+}
+
+/// `model` and `items` are the store's own: each signal carries what they are by then. Selecting and deselecting end
+/// with the same two signals in opposite order.
+void announceClick(const SelectModel& model, const QPair<int, int>& pair, bool isSelect, const RecordList& items)
+{
+    IBaseSignal* const hub = IBaseSignal::getInstance();
+    Q_EMIT hub->signal_setViewObjectListState(model, singlePair(pair.first, pair.second), isSelect);
+    Q_EMIT hub->signal_updateViewObjectState(model, pair.first, pair.second, isSelect);
+    if (isSelect) {
+        Q_EMIT hub->signal_refreshActionOnSelectDataChanged();
+        Q_EMIT hub->signal_updateGeomrtryActorTransparency(items);
+    } else {
+        Q_EMIT hub->signal_updateGeomrtryActorTransparency(items);
+        Q_EMIT hub->signal_refreshActionOnSelectDataChanged();
+    }
 }
 
 } // namespace
@@ -123,35 +147,18 @@ void SelectedDataManager::setHighLightCheckEnable(bool isEnable)
 
 void SelectedDataManager::clickViewObject(int firstID, int secondID)
 {
-    IBaseSignal* const hub = IBaseSignal::getInstance();
-    if (m_isHighLightCheckEnable) {
-        bool isAllowed = true;
-        Q_EMIT hub->signal_checkHighLight(isAllowed, m_selectModel, firstID, secondID);
-        if (!isAllowed) {
-            Q_EMIT hub->signal_updateGeomrtryActorTransparency(m_selectedDataList);
-            return;
-        }
+    if (m_isHighLightCheckEnable && !isHighLightAllowed(m_selectModel, firstID, secondID)) {
+        Q_EMIT IBaseSignal::getInstance()->signal_updateGeomrtryActorTransparency(m_selectedDataList);
+        return;
     }
     UnfinishedClear::settle(m_selectedDataList);
     const int position = firstMatch(m_selectedDataList, m_selectModel, firstID, secondID);
-    const bool isSelect = position < 0;
-    if (isSelect) {
+    if (position < 0) {
         addSelectData(m_selectModel, firstID, secondID);
     } else {
-        returnRecordInPlace(m_dataPool, m_selectedDataList.at(position));
-        m_selectedDataList[position] = nullptr;
-        UnfinishedClear::dropRemoved(m_selectedDataList, position);
+        removeItem(m_selectedDataList, m_dataPool, position);
     }
-    Q_EMIT hub->signal_setViewObjectListState(m_selectModel, singlePair(firstID, secondID), isSelect);
-    Q_EMIT hub->signal_updateViewObjectState(m_selectModel, firstID, secondID, isSelect);
-    // Deselecting and selecting end with the same two signals in opposite order.
-    if (!isSelect) {
-        Q_EMIT hub->signal_updateGeomrtryActorTransparency(m_selectedDataList);
-    }
-    Q_EMIT hub->signal_refreshActionOnSelectDataChanged();
-    if (isSelect) {
-        Q_EMIT hub->signal_updateGeomrtryActorTransparency(m_selectedDataList);
-    }
+    announceClick(m_selectModel, {firstID, secondID}, position < 0, m_selectedDataList);
 }
 
 bool SelectedDataManager::getGeometryIsHighLight(int id) const

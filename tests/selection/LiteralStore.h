@@ -9,12 +9,14 @@
 #include <QMap>
 
 #include <algorithm>
+#include <array>
 #include <deque>
 #include <vector>
 
 /// The selection store by scans alone, one pair after the other: slow, and plain enough to be seen right. It emits on
 /// the hub as the real one does. What it adds to the plain procedure is the answer to a listener that calls back during
-/// a clearing: such a call first drops what is cleared already, and what it adds is not cleared.
+/// a clearing: such a call first drops what is cleared already, what it adds is not cleared, and if it clears, then it
+/// does so at once.
 class LiteralStore
 {
 public:
@@ -107,17 +109,13 @@ public:
     void clearAllSelectedTarget()
     {
         dropCleared();
-        const quint64 end = m_nextStamp;
-        for (int i = firstToClear(end); i >= 0; i = firstToClear(end)) {
-            Item& item = m_items[std::size_t(i)];
-            const Model model = item.record->getSelectModel();
-            const int first = item.record->getFirstID();
-            const int second = item.record->getSecondID();
-            item.isCleared = true;
-            giveBack(item.record);
-            Q_EMIT hub()->signal_updateViewObjectState(model, first, second, false);
+        if (m_isClearing) {
+            clearAtOnce();
+        } else {
+            m_isClearing = true;
+            clearOneByOne();
+            m_isClearing = false;
         }
-        dropCleared();
         Q_EMIT hub()->signal_updateGeomrtryActorTransparency(getSelectedDataList());
         Q_EMIT hub()->signal_clearAllHighLight();
         Q_EMIT hub()->signal_refreshActionOnSelectDataChanged();
@@ -240,6 +238,34 @@ private:
         return item == m_items.end() ? -1 : int(item - m_items.begin());
     }
 
+    void clearOneByOne()
+    {
+        const quint64 end = m_nextStamp;
+        for (int i = firstToClear(end); i >= 0; i = firstToClear(end)) {
+            Item& item = m_items[std::size_t(i)];
+            const Model model = item.record->getSelectModel();
+            const int first = item.record->getFirstID();
+            const int second = item.record->getSecondID();
+            item.isCleared = true;
+            giveBack(item.record);
+            Q_EMIT hub()->signal_updateViewObjectState(model, first, second, false);
+        }
+        dropCleared();
+    }
+
+    void clearAtOnce()
+    {
+        std::vector<std::array<int, 3>> old;
+        for (const Item& item : m_items) {
+            old.push_back({item.record->getSelectModel(), item.record->getFirstID(), item.record->getSecondID()});
+            giveBack(item.record);
+        }
+        m_items.clear();
+        for (const auto& item : old) {
+            Q_EMIT hub()->signal_updateViewObjectState(item[0], item[1], item[2], false);
+        }
+    }
+
     bool isAny(int id, const QList<int>& models) const
     {
         return std::any_of(m_items.begin(), m_items.end(), [&](const Item& item) {
@@ -328,4 +354,5 @@ private:
     Model m_mainWindowModel = Model(0);
     bool m_isChecking = false;
     bool m_canSwitch = true;
+    bool m_isClearing = false;
 };

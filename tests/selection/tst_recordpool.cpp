@@ -56,7 +56,9 @@ private Q_SLOTS:
     void closedPoolIsReported();
     void closedPoolAddsNothingToLongLists();
     void endFreesEveryRecord();
+    void endFreesThePoolFirst();
     void endSurvivesAWatcherThatRemoves();
+    void twoStoresKeepTheirRecordsApart();
 };
 
 void tst_RecordPool::initMakesTwentyRecords()
@@ -279,6 +281,27 @@ void tst_RecordPool::endFreesEveryRecord()
     QCOMPARE(records.count(QPointer<QObject>()), 25);
 }
 
+void tst_RecordPool::endFreesThePoolFirst()
+{
+    QStringList ends;
+    QObject receiver;
+    {
+        const OwnStore store;
+        for (int i = 0; i < 18; ++i) {
+            store->addSelectData(SelectModel(2), i, 0);
+        }
+        for (const Record* const record : poolOf(*store)) {
+            connect(record, &QObject::destroyed, &receiver, [&ends] { ends.append(QStringLiteral("free")); });
+        }
+        for (const int position : {0, 17}) {
+            connect(store->getSelectedDataList().at(position), &QObject::destroyed, &receiver,
+                    [&ends, position] { ends.append(QString::number(position)); });
+        }
+    }
+    QCOMPARE(ends,
+             (QStringList{QStringLiteral("free"), QStringLiteral("free"), QStringLiteral("0"), QStringLiteral("17")}));
+}
+
 void tst_RecordPool::endSurvivesAWatcherThatRemoves()
 {
     auto* const store = new SelectedDataManager;
@@ -296,6 +319,31 @@ void tst_RecordPool::endSurvivesAWatcherThatRemoves()
     delete store;
     QCOMPARE(poolStates, QByteArray("closed"));
     QCOMPARE(records.count(QPointer<QObject>()), 3);
+}
+
+/// Both at the end of their pools, where the last free record comes and goes.
+void tst_RecordPool::twoStoresKeepTheirRecordsApart()
+{
+    const OwnStore one;
+    const OwnStore other;
+    for (int i = 0; i < 19; ++i) {
+        one->addSelectData(SelectModel(0), 100 + i, 0);
+        other->addSelectData(SelectModel(0), 100 + i, 0);
+    }
+    const QList<Record*> ofOne = poolOf(*one);
+    const QList<Record*> ofOther = poolOf(*other);
+    for (int round = 0; round < 200; ++round) {
+        const bool isOneFirst = round % 3 == 0;
+        one->clickViewObject(1, 0);
+        other->clickViewObject(1, 0);
+        QVERIFY(one->m_dataPool.empty() && other->m_dataPool.empty());
+        QCOMPARE(one->getSelectedDataList().last(), ofOne.first());
+        QCOMPARE(other->getSelectedDataList().last(), ofOther.first());
+        (isOneFirst ? *one : *other).clickViewObject(1, 0);
+        (isOneFirst ? *other : *one).clickViewObject(1, 0);
+        QCOMPARE(poolOf(*one), ofOne);
+        QCOMPARE(poolOf(*other), ofOther);
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_RecordPool)

@@ -14,8 +14,12 @@ private Q_SLOTS:
     void countsEveryAllocator();
     void clicksAllocateNothing_data();
     void clicksAllocateNothing();
+    void clicksFromTheFirstOnAllocateNothing_data();
+    void clicksFromTheFirstOnAllocateNothing();
     void shortListsAllocateNothing_data();
     void shortListsAllocateNothing();
+    void shortRemovalsAllocateNothing_data();
+    void shortRemovalsAllocateNothing();
 };
 
 namespace {
@@ -50,7 +54,13 @@ void tst_SelectionAllocations::clicksAllocateNothing_data()
     QTest::addColumn<int>("heldCount");
     QTest::addColumn<int>("freeCount");
     QTest::newRow("empty selection, first pool") << 0 << 20;
-    QTest::newRow("two free records") << 18 << 2;
+    for (const int free : {1, 2, 3}) {
+        QTest::addRow("%d free records", free) << 20 - free << free;
+        // Wherever in a block of the pool they stand.
+        for (int held = 60; held <= 68; ++held) {
+            QTest::addRow("%d items, %d free records", held, free) << held << free;
+        }
+    }
     // The pool's blocks hold 64 pointers, so some of these stand at a block's end.
     for (int held = 60; held <= 68; ++held) {
         QTest::addRow("%d items", held) << held << 200 - held;
@@ -72,6 +82,33 @@ void tst_SelectionAllocations::clicksAllocateNothing()
     }
     QCOMPARE(int(store->m_dataPool.size()), freeCount);
     QCOMPARE(allocationsOf(1000, [&store] { store->clickViewObject(5, 7); }), 0L);
+}
+
+void tst_SelectionAllocations::clicksFromTheFirstOnAllocateNothing_data()
+{
+    QTest::addColumn<int>("heldCount");
+    for (const int held : {0, 5, 18, 19, 20, 21, 40}) {
+        QTest::addRow("%d items", held) << held;
+    }
+}
+
+/// Selected by clicks, as a user does. From 20 items on, the pool holds the one record that the click itself returns.
+void tst_SelectionAllocations::clicksFromTheFirstOnAllocateNothing()
+{
+    QFETCH(int, heldCount);
+    const OwnStore store;
+    for (int i = 0; i < heldCount; ++i) {
+        store->clickViewObject(100 + i, 0);
+    }
+    QCOMPARE(allocationsOf(6400, [&store] { store->clickViewObject(1, 1); }), 0L);
+    // Two objects in turn, in both orders.
+    QCOMPARE(allocationsOf(1600,
+                           [&store] {
+                               for (const int id : {1, 2, 1, 2, 1, 2, 2, 1}) {
+                                   store->clickViewObject(id, 1);
+                               }
+                           }),
+             0L);
 }
 
 void tst_SelectionAllocations::shortListsAllocateNothing_data()
@@ -97,6 +134,41 @@ void tst_SelectionAllocations::shortListsAllocateNothing()
                            }),
              0L);
     QCOMPARE(allocationsOf(1000, [&] { store->addSelectedTargetList(SelectModel(2), {}); }), 0L);
+}
+
+void tst_SelectionAllocations::shortRemovalsAllocateNothing_data()
+{
+    QTest::addColumn<Script>("removal");
+    QTest::addColumn<int>("heldCount");
+    using Store = SelectedDataManager;
+    const Script ofModel = [](Store& s) { s.deleteSelectedData(SelectModel(2)); };
+    const Script ofIdentifier = [](Store& s) { s.deleteSelectedData(SelectModel(2), 1); };
+    const Script ofPair = [](Store& s) { s.removeSelectData(SelectModel(2), 1, -1); };
+    // With 12 items of another model held, the removed items are all that the first pool can have free.
+    for (const int held : {0, 12, 50}) {
+        QTest::addRow("of a model, beside %d", held) << ofModel << held;
+        QTest::addRow("of an identifier, beside %d", held) << ofIdentifier << held;
+        QTest::addRow("of a wildcard, beside %d", held) << ofPair << held;
+    }
+    QTest::newRow("by clearing") << Script([](Store& s) { s.clearAllSelectedTarget(); }) << 0;
+}
+
+void tst_SelectionAllocations::shortRemovalsAllocateNothing()
+{
+    QFETCH(Script, removal);
+    QFETCH(int, heldCount);
+    const OwnStore store;
+    for (int i = 0; i < heldCount; ++i) {
+        store->addSelectData(SelectModel(7), i, 0);
+    }
+    const Pairs pairs{{1, 0}, {1, 1}, {1, 2}, {1, 3}, {1, 4}, {1, 5}, {1, 6}, {1, 7}};
+    QCOMPARE(allocationsOf(1000,
+                           [&] {
+                               store->addSelectedTargetList(SelectModel(2), pairs);
+                               removal(*store);
+                           }),
+             0L);
+    QCOMPARE(store->getDataCount(), heldCount);
 }
 
 QTEST_GUILESS_MAIN(tst_SelectionAllocations)

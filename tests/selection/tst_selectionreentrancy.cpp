@@ -5,6 +5,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 /// What happens when a listener calls back, step by step; tst_selectionagainstliteral does it at random.
 class tst_SelectionReentrancy : public QObject
 {
@@ -15,6 +17,9 @@ private Q_SLOTS:
     void callsBack();
     void clearingAnExhaustedPoolOwnsEachRecordOnce();
     void aPinningListenerDoesNotKeepItBusy();
+    void clearingFromEachSignalStaysShallow_data();
+    void clearingFromEachSignalStaysShallow();
+    void aCheckMaySwitchTheModel();
 };
 
 namespace {
@@ -59,15 +64,13 @@ void tst_SelectionReentrancy::callsBack_data()
         << QString() << Script([](SelectedDataManager& store) {
                store.removeSelectedTargetList(model2, {{-1, -1}});
            });
-    QTest::newRow("clearing, cleared") << three << clearing()
-                                       << lines({"updateViewObjectState 2 (1,0) 0 | 2:-1,-1 2:2,0 7:3,0",
-                                                 "updateViewObjectState 2 (2,0) 0 | 2:-1,-1 7:3,0",
-                                                 "updateViewObjectState 7 (3,0) 0 | 2:-1,-1 7:-1,-1",
-                                                 "updateGeomrtryActorTransparency 0 | ", "clearAllHighLight | ",
-                                                 "refreshActionOnSelectDataChanged | ",
-                                                 "updateGeomrtryActorTransparency 0 | ", "clearAllHighLight | ",
-                                                 "refreshActionOnSelectDataChanged | "})
-                                       << QString() << clearing();
+    QTest::newRow("clearing, cleared")
+        << three << clearing()
+        << lines({"updateViewObjectState 2 (1,0) 0 | 2:-1,-1 2:2,0 7:3,0", "updateViewObjectState 2 (2,0) 0 | ",
+                  "updateViewObjectState 7 (3,0) 0 | ", "updateGeomrtryActorTransparency 0 | ", "clearAllHighLight | ",
+                  "refreshActionOnSelectDataChanged | ", "updateGeomrtryActorTransparency 0 | ", "clearAllHighLight | ",
+                  "refreshActionOnSelectDataChanged | "})
+        << QString() << clearing();
     QTest::newRow("clearing, switched")
         << three << clearing()
         << lines({"updateViewObjectState 2 (1,0) 0 | 2:-1,-1 2:2,0 7:3,0", "setViewObjectListState 2 [(2,0)] 0 | 7:3,0",
@@ -84,6 +87,77 @@ void tst_SelectionReentrancy::callsBack_data()
                   "updateViewObjectState 7 (3,0) 0 | 2:-1,-1 2:-1,-1 7:-1,-1", "updateGeomrtryActorTransparency 0 | ",
                   "clearAllHighLight | ", "refreshActionOnSelectDataChanged | "})
         << QString() << Script([](SelectedDataManager& store) { QCOMPARE(store.getSelectedDataList().size(), 3); });
+    // What is cleared already matches nothing any more, not even a wildcard.
+    const Script two = holding({{2, {1, 0}}, {7, {3, 0}}});
+    const auto clearingTwo = [](const QStringList& inBetween, const char* rest, const char* end) {
+        return lines({"updateViewObjectState 2 (1,0) 0 | 2:-1,-1 7:3,0"}) + inBetween + lines({rest}) +
+               lines({"updateGeomrtryActorTransparency %1", "clearAllHighLight", "refreshActionOnSelectDataChanged"},
+                     end)
+                   .replaceInStrings(QStringLiteral("%1"), QString::number(*end == 0 ? 0 : 1));
+    };
+    QTest::newRow("clearing, a wildcard selected")
+        << two << clearing()
+        << clearingTwo(lines({"setViewObjectListState 2 [(-1,-1)] 1", "updateGeomrtryActorTransparency 2",
+                              "updateViewObjectState 2 (-1,-1) 1", "refreshActionOnSelectDataChanged"},
+                             "7:3,0 2:-1,-1"),
+                       "updateViewObjectState 7 (3,0) 0 | 7:-1,-1 2:-1,-1", "2:-1,-1")
+        << QStringLiteral("2:-1,-1") << Script([](SelectedDataManager& store) {
+               store.addSelectedTargetList(model2, {{-1, -1}});
+           });
+    QTest::newRow("clearing, a wildcard removed") << two << clearing()
+                                                  << clearingTwo(lines({"refreshActionOnSelectDataChanged"}, "7:3,0"),
+                                                                 "updateViewObjectState 7 (3,0) 0 | 7:-1,-1", "")
+                                                  << QString() << Script([](SelectedDataManager& store) {
+                                                         store.removeSelectedTargetList(model2, {{-1, -1}});
+                                                     });
+    QTest::newRow("clearing, the identifier of a free record removed")
+        << two << clearing()
+        << clearingTwo(lines({"setViewObjectListState 2 [] 0"}, "7:3,0"), "updateViewObjectState 7 (3,0) 0 | 7:-1,-1",
+                       "")
+        << QString() << Script([](SelectedDataManager& store) { store.removeSelectedTargets(model2, {-1}); });
+    QTest::newRow("clearing, the model deleted")
+        << two << clearing() << clearingTwo({}, "updateViewObjectState 7 (3,0) 0 | 7:-1,-1", "") << QString()
+        << Script([](SelectedDataManager& store) { store.deleteSelectedData(model2); });
+    QTest::newRow("clearing, switched without other items")
+        << two << clearing()
+        << clearingTwo(lines({"updateInteraction", "updateMenuActionState"}, "7:3,0"),
+                       "updateViewObjectState 7 (3,0) 0 | 7:-1,-1", "")
+        << QString() << Script([](SelectedDataManager& store) { store.setSelectModelInMainWindow(SelectModel(7)); });
+    QTest::newRow("clearing, a wildcard clicked")
+        << Script([two](SelectedDataManager& store) {
+               store.setSelectModelInMainWindow(model2);
+               two(store);
+           })
+        << clearing()
+        << clearingTwo(lines({"setViewObjectListState 2 [(-1,-1)] 1", "updateViewObjectState 2 (-1,-1) 1",
+                              "refreshActionOnSelectDataChanged", "updateGeomrtryActorTransparency 2"},
+                             "7:3,0 2:-1,-1"),
+                       "updateViewObjectState 7 (3,0) 0 | 7:-1,-1 2:-1,-1", "2:-1,-1")
+        << QStringLiteral("2:-1,-1") << Script([](SelectedDataManager& store) { store.clickViewObject(-1, -1); });
+    // The model that a call back returns to is the one that the switch under way has stored before its first signal.
+    const QStringList switchedInBetween = lines(
+        {"setViewObjectListState 2 [(1,0)] 0", "updateGeomrtryActorTransparency 1", "updateViewObjectState 2 (1,0) 0"},
+        "7:3,0");
+    const Script enabling = [](SelectedDataManager& store) { store.setSwitchSelectModelEnable(true); };
+    QTest::newRow("switching in the main window, enabled")
+        << two << Script([](SelectedDataManager& store) { store.setSelectModelInMainWindow(SelectModel(7)); })
+        << switchedInBetween + lines({"updateInteraction", "updateMenuActionState", "updateIsCanSwitchSelectModel",
+                                      "refreshActionOnSelectDataChanged", "updateInteraction", "updateMenuActionState"},
+                                     "7:3,0")
+        << QStringLiteral("7:3,0") << enabling;
+    QTest::newRow("switching in a dialog, enabled")
+        << Script([two](SelectedDataManager& store) {
+               store.setSelectModelInMainWindow(SelectModel(9));
+               two(store);
+           })
+        << Script([](SelectedDataManager& store) { store.setSelectModelInDialog(SelectModel(7)); })
+        << switchedInBetween +
+               lines({"setViewObjectListState 7 [(3,0)] 0", "updateGeomrtryActorTransparency 0",
+                      "updateViewObjectState 7 (3,0) 0", "refreshActionOnSelectDataChanged", "updateInteraction",
+                      "updateMenuActionState", "updateIsCanSwitchSelectModel", "refreshActionOnSelectDataChanged",
+                      "updateInteraction", "updateIsCanSwitchSelectModel", "updateMenuActionState"},
+                     "")
+        << QString() << enabling;
     QTest::newRow("switching, a later group deleted")
         << three << Script([](SelectedDataManager& store) { store.setSelectModelInMainWindow(SelectModel(9)); })
         << lines({"setViewObjectListState 2 [(1,0) (2,0)] 0 | 7:3,0", "updateGeomrtryActorTransparency 1 | 7:3,0",
@@ -173,6 +247,73 @@ void tst_SelectionReentrancy::aPinningListenerDoesNotKeepItBusy()
             });
     store->clearAllSelectedTarget();
     QCOMPARE(itemsOf(*store), QStringLiteral("2:1,0 2:2,0 2:3,0"));
+}
+
+void tst_SelectionReentrancy::clearingFromEachSignalStaysShallow_data()
+{
+    QTest::addColumn<bool>("isSelectingFirst");
+    QTest::newRow("clears") << false;
+    QTest::newRow("selects another object once, and clears") << true;
+}
+
+/// As deep as there are items would be too deep for any stack.
+void tst_SelectionReentrancy::clearingFromEachSignalStaysShallow()
+{
+    QFETCH(bool, isSelectingFirst);
+    const int count = 100000;
+    const OwnStore store;
+    for (int i = 0; i < count; ++i) {
+        store->addSelectData(model2, i, 0);
+    }
+    QObject listener;
+    int depth = 0;
+    int deepest = 0;
+    QList<int> told;
+    connect(IBaseSignal::getInstance(), &IBaseSignal::signal_updateViewObjectState, &listener,
+            [&](int, int first, int, bool isShow) {
+                if (isShow) {
+                    return;
+                }
+                told.append(first);
+                deepest = std::max(deepest, ++depth);
+                if (isSelectingFirst && first == 0) {
+                    store->addSelectedTargetList(model2, {{count, 0}});
+                }
+                store->clearAllSelectedTarget();
+                --depth;
+            });
+    store->clearAllSelectedTarget();
+    QVERIFY2(deepest <= 2, QByteArray::number(deepest).constData());
+    QList<int> expected;
+    for (int i = 0; i < count + int(isSelectingFirst); ++i) {
+        expected.append(i);
+    }
+    QVERIFY(told == expected);
+    QCOMPARE(store->getDataCount(), 0);
+    const auto& pool = store->m_dataPool;
+    QCOMPARE(QSet<DataModel::SelectedDataBase*>(pool.begin(), pool.end()).size(), int(pool.size()));
+}
+
+/// The click then acts under the model that the check has left.
+void tst_SelectionReentrancy::aCheckMaySwitchTheModel()
+{
+    const OwnStore store;
+    store->setSelectModelInMainWindow(model2);
+    holding({{2, {1, 0}}, {7, {3, 0}}})(*store);
+    store->setHighLightCheckEnable(true);
+    SignalLog log([&store] { return itemsOf(*store); });
+    QObject view;
+    connect(IBaseSignal::getInstance(), &IBaseSignal::signal_checkHighLight, &view,
+            [&](bool&, int, int, int) { store->setSelectModelInMainWindow(SelectModel(7)); });
+    store->clickViewObject(1, 0);
+    QCOMPARE(log.take(), lines({"checkHighLight 1 2 (1,0) | 2:1,0 7:3,0"}) +
+                             lines({"setViewObjectListState 2 [(1,0)] 0", "updateGeomrtryActorTransparency 1",
+                                    "updateViewObjectState 2 (1,0) 0", "refreshActionOnSelectDataChanged",
+                                    "updateInteraction", "updateMenuActionState"},
+                                   "7:3,0") +
+                             lines({"setViewObjectListState 7 [(1,0)] 1", "updateViewObjectState 7 (1,0) 1",
+                                    "refreshActionOnSelectDataChanged", "updateGeomrtryActorTransparency 2"},
+                                   "7:3,0 7:1,0"));
 }
 
 QTEST_GUILESS_MAIN(tst_SelectionReentrancy)

@@ -10,6 +10,9 @@
 
 namespace DataManager {
 
+/// Up to so many scans of the list cost less than an index, and they allocate nothing.
+constexpr int mostScans = 8;
+
 /// Finds the items of one model that match, in constant time each, for the length of one bulk call. It is exact because
 /// nobody else touches the records before the call's first signal. A null entry of the list is an item that the call
 /// has taken out. Four families of chains answer the four shapes of a query, each built when its shape first occurs.

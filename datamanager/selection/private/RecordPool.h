@@ -24,4 +24,18 @@ void returnRecord(RecordPool& pool, DataModel::SelectedDataBase* record);
 /// std::deque needs for every block of records that passes through it.
 void returnRecordInPlace(RecordPool& pool, DataModel::SelectedDataBase* record);
 
+/// Returns the records of one call: the first few in place, so that a call for few allocates nothing, and the others at
+/// constant cost.
+class RecordReturn
+{
+public:
+    explicit RecordReturn(RecordPool& pool) : m_pool(pool) {}
+
+    void add(DataModel::SelectedDataBase* record);
+
+private:
+    RecordPool& m_pool;
+    int m_inPlaceCount = 0;
+};
+
 } // namespace DataManager

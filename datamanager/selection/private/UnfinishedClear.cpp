@@ -9,10 +9,8 @@ namespace DataManager {
 
 UnfinishedClear* UnfinishedClear::m_innermost = nullptr;
 
-UnfinishedClear::UnfinishedClear(RecordList& items) : m_items(items), m_end(0), m_outer(m_innermost)
+UnfinishedClear::UnfinishedClear(RecordList& items) : m_items(items), m_end(items.size()), m_outer(m_innermost)
 {
-    settle(items);
-    m_end = items.size();
     m_innermost = this;
 }
 
@@ -27,33 +25,38 @@ DataModel::SelectedDataBase* UnfinishedClear::next()
     return m_clearedCount < m_end ? m_items.at(m_clearedCount++) : nullptr;
 }
 
+bool UnfinishedClear::isUnderWay(const RecordList& items)
+{
+    return of(items) != nullptr;
+}
+
 void UnfinishedClear::settle(RecordList& items)
 {
-    int clearedCount = 0;
-    for (const UnfinishedClear* clear = m_innermost; clear != nullptr; clear = clear->m_outer) {
-        clearedCount += &clear->m_items == &items ? clear->m_clearedCount : 0;
-    }
-    if (clearedCount == 0) {
+    UnfinishedClear* const clear = of(items);
+    if (clear == nullptr || clear->m_clearedCount == 0) {
         return;
     }
-    items.erase(items.begin(), items.begin() + clearedCount);
-    for (UnfinishedClear* clear = m_innermost; clear != nullptr; clear = clear->m_outer) {
-        if (&clear->m_items == &items) {
-            clear->m_clearedCount = 0;
-            clear->m_end = std::max(0, clear->m_end - clearedCount);
-        }
-    }
+    items.erase(items.begin(), items.begin() + clear->m_clearedCount);
+    clear->m_end -= clear->m_clearedCount;
+    clear->m_clearedCount = 0;
 }
 
 void UnfinishedClear::dropRemoved(RecordList& items, int position)
 {
-    for (UnfinishedClear* clear = m_innermost; clear != nullptr; clear = clear->m_outer) {
-        if (&clear->m_items == &items && position < clear->m_end) {
-            clear->m_end -=
-                static_cast<int>(std::count(items.cbegin() + position, items.cbegin() + clear->m_end, nullptr));
-        }
+    UnfinishedClear* const clear = of(items);
+    if (clear != nullptr && position < clear->m_end) {
+        clear->m_end -= static_cast<int>(std::count(items.cbegin() + position, items.cbegin() + clear->m_end, nullptr));
     }
     items.erase(std::remove(items.begin() + position, items.end(), nullptr), items.end());
+}
+
+UnfinishedClear* UnfinishedClear::of(const RecordList& items)
+{
+    UnfinishedClear* clear = m_innermost;
+    while (clear != nullptr && &clear->m_items != &items) {
+        clear = clear->m_outer;
+    }
+    return clear;
 }
 
 } // namespace DataManager

@@ -13,7 +13,8 @@ namespace DataManager {
 class UnfinishedClear
 {
 public:
-    /// Begins to clear the items that the list now holds. `items` must outlive this object.
+    /// Begins to clear the items that the list now holds. `items` must outlive this object, and no other clearing of it
+    /// may be under way.
     explicit UnfinishedClear(RecordList& items);
     /// Drops the cleared items from the list.
     ~UnfinishedClear();
@@ -22,17 +23,22 @@ public:
     /// The next item to clear; null when none is left. From now on it counts as cleared.
     DataModel::SelectedDataBase* next();
 
+    /// Whether a clearing of this list has begun and not ended.
+    static bool isUnderWay(const RecordList& items);
     /// Drops the cleared items from the list in the midst of its clearing.
     static void settle(RecordList& items);
     /// Drops the null entries from the list, the first of which is at `position` or behind it.
     static void dropRemoved(RecordList& items, int position = 0);
 
 private:
+    static UnfinishedClear* of(const RecordList& items);
+
     RecordList& m_items;
-    /// This many items at the front of the list are cleared. Not 0 at most in the innermost clearing of a list.
+    /// This many items at the front of the list are cleared.
     int m_clearedCount = 0;
     /// Items before this position were selected when the clearing began; those behind it came later, and stay.
     int m_end;
+    /// The clearing of another list in whose midst this one began.
     UnfinishedClear* const m_outer;
 
     static UnfinishedClear* m_innermost;
