@@ -25,9 +25,11 @@ namespace DataManager {
 /// An item is a pair of identifiers under a select model. It matches (model, a, b) when its model equals `model`, and
 /// a is negative or its first identifier, and b is negative or its second one: a negative identifier is a wildcard.
 ///
-/// Signals are delivered synchronously and show the store as the call left it; only clearAllSelectedTarget tells of
-/// its items one by one. A listener may call back into the store from any signal: such a call finds the state that the
-/// signal shows, and takes full effect. User-interface thread only.
+/// Signals are delivered synchronously. A call changes the store first and tells of it then, so each of its signals
+/// shows the store as the call left it, unless an earlier listener has called back and changed it again; lists of items
+/// in signals are those of that moment. Two kinds of call do it step by step: the switches of the select model deselect
+/// the items of one model after the other, and clearAllSelectedTarget one item after the other. A listener may call
+/// back into the store from any signal; its call takes full effect before it returns. User-interface thread only.
 class DATAMANAGER_EXPORT SelectedDataManager : public QObject
 {
     Q_OBJECT
@@ -47,12 +49,16 @@ public:
     void addSelectedTargetListByProjectTree(BaseModule::SelectModel model, QList<QPair<int, int>> targetList);
     void removeSelectedTargetListByProjectTree(BaseModule::SelectModel model, QList<QPair<int, int>> targetList);
     /// Deselects all items of the model whose first identifier equals one of the list, which has no wildcards. An item
-    /// that itself holds a negative identifier takes along what matches it as a wildcard.
+    /// that itself holds a negative identifier takes along what matches it as a wildcard. The signal names an item once
+    /// for each time that its identifier is in the list: k repetitions of an identifier of n items make k * n pairs.
     void removeSelectedTargets(BaseModule::SelectModel model, QList<int> firstIDList);
     /// Removes all items of the model, or those that match (model, firstID, -1), without a signal.
     void deleteSelectedData(BaseModule::SelectModel model);
     void deleteSelectedData(BaseModule::SelectModel model, int firstID);
-    /// Deselects everything. Items that a listener selects meanwhile stay selected.
+    /// Deselects everything, item by item. At the signal of an item its record is free and has identifiers -1, and the
+    /// list still holds it and all others. The list is emptied after the last of these signals; if a listener calls
+    /// anything that changes the list, the records that are free leave it first. Items that a listener selects meanwhile
+    /// stay selected. A clearing that a listener begins meanwhile takes out all items before its first signal.
     void clearAllSelectedTarget();
 
     /// The pairs of the model's items, in order of selection.
@@ -64,10 +70,11 @@ public:
     BaseModule::SelectModel getSelectModel() const;
     void getSelectModel(BaseModule::SelectModel& model) const;
     /// Selects under another model for the lifetime of a dialog: remembers the current model as that of the main
-    /// window, deselects the items of other models and locks the model. A second dialog makes the first one's model
-    /// the remembered one.
+    /// window, deselects the items of other models, and then locks the model, which is unlocked until then. A second
+    /// dialog makes the first one's model the remembered one.
     void setSelectModelInDialog(BaseModule::SelectModel model);
-    /// Switches the model and deselects the items of other models; ignored while a dialog has locked it.
+    /// Switches the model and deselects the items of other models; ignored while a dialog has locked it. This and the
+    /// other switches cost in proportion to the number of items times that of the models to deselect.
     void setSelectModelInMainWindow(BaseModule::SelectModel model);
     /// Unlocks the model and returns to that of the main window, or locks it as it is.
     void setSwitchSelectModelEnable(bool isEnable);
