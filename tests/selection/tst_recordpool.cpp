@@ -343,6 +343,10 @@ void tst_RecordPool::twoStoresKeepTheirRecordsApart()
         (isOneFirst ? *other : *one).clickViewObject(1, 0);
         QCOMPARE(poolOf(*one), ofOne);
         QCOMPARE(poolOf(*other), ofOther);
+        for (const Record* const record : {ofOne.first(), ofOther.first()}) {
+            QCOMPARE(record->getFirstID(), -1);
+            QCOMPARE(record->getSecondID(), -1);
+        }
     }
 }
 

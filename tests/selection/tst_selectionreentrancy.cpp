@@ -87,6 +87,14 @@ void tst_SelectionReentrancy::callsBack_data()
                   "updateViewObjectState 7 (3,0) 0 | 2:-1,-1 2:-1,-1 7:-1,-1", "updateGeomrtryActorTransparency 0 | ",
                   "clearAllHighLight | ", "refreshActionOnSelectDataChanged | "})
         << QString() << Script([](SelectedDataManager& store) { QCOMPARE(store.getSelectedDataList().size(), 3); });
+    QTest::newRow("clearing, added without a signal")
+        << three << clearing()
+        << lines({"updateViewObjectState 2 (1,0) 0 | 2:-1,-1 2:2,0 7:3,0",
+                  "updateViewObjectState 2 (2,0) 0 | 2:-1,-1 7:3,0 2:1,0",
+                  "updateViewObjectState 7 (3,0) 0 | 2:-1,-1 7:-1,-1 2:1,0"}) +
+               lines({"updateGeomrtryActorTransparency 1", "clearAllHighLight", "refreshActionOnSelectDataChanged"},
+                     "2:1,0")
+        << QStringLiteral("2:1,0") << Script([](SelectedDataManager& store) { store.addSelectData(model2, 1, 0); });
     // What is cleared already matches nothing any more, not even a wildcard.
     const Script two = holding({{2, {1, 0}}, {7, {3, 0}}});
     const auto clearingTwo = [](const QStringList& inBetween, const char* rest, const char* end) {
