@@ -16,6 +16,9 @@ using DataManager::MeshQualityReport;
 
 namespace {
 
+const QString profileFile = QStringLiteral("profile");
+const QString printProfile = QStringLiteral("print-profile");
+
 enum class Verdict : int
 {
     Pass,
@@ -79,20 +82,27 @@ ExitCode checkMesh(const QString& file, const Profile& profile)
 ExitCode runCheck(const QStringList& arguments)
 {
     QCommandLineParser parser;
-    parser.addOption({QStringLiteral("profile"), QString(), QStringLiteral("FILE")});
+    parser.addOption({profileFile, QString(), QStringLiteral("FILE")});
+    parser.addOption(QCommandLineOption(printProfile));
     if (!parser.parse(arguments)) {
         Console::printUsageError(parser.errorText());
         return UsageError;
     }
-    const QString path = parser.value(QStringLiteral("profile"));
-    if (path.isEmpty() || parser.positionalArguments().isEmpty()) {
-        Console::printUsageError(path.isEmpty() ? QStringLiteral("check needs a profile")
-                                                : QStringLiteral("no mesh is given"));
+    if (parser.isSet(printProfile)) {
+        Console::print(QString::fromUtf8(Profile::defaultText()));
+        return Success;
+    }
+    const QString path = parser.value(profileFile);
+    if ((path.isEmpty() && parser.isSet(profileFile)) || parser.positionalArguments().isEmpty()) {
+        Console::printUsageError(parser.isSet(profileFile) && path.isEmpty() ? QStringLiteral("--profile needs a file")
+                                                                             : QStringLiteral("no mesh is given"));
         return UsageError;
     }
     Profile profile;
     QString problem;
-    if (!Profile::read(path, profile, problem)) {
+    const bool isRead = path.isEmpty() ? Profile::parse(Profile::defaultText(), profile, problem)
+                                       : Profile::read(path, profile, problem);
+    if (!isRead) {
         Console::printError(path, problem);
         return UnreadableInput;
     }

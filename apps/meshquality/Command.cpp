@@ -27,8 +27,10 @@ const char* const helpText = R"(Quality of tetrahedral meshes in MSH 2 ASCII.
       --histogram METRIC  how the values of a metric are spread
       --by-region         the same for each physical group
       --model FILE        another model than ../mesher/mesh.onnx beside the program
-  meshquality check --profile FILE MESH...
-      One line a mesh: pass, warn or fail against the thresholds of a profile.
+  meshquality check [--profile FILE] MESH...
+      One line a mesh: pass, warn or fail against the thresholds of a profile, or of the built-in one.
+  meshquality check --print-profile
+      The built-in profile, with the source of each threshold.
   meshquality compare [--model FILE] A B
       Two meshes side by side, with what has improved and what has worsened.
   meshquality predict

@@ -5,6 +5,7 @@
 
 #include <basemodule/GlobalHelper.h>
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -43,6 +44,12 @@ QString readThreshold(const QJsonObject& object, Threshold& threshold)
 
 } // namespace
 
+QByteArray Profile::defaultText()
+{
+    QFile file(QStringLiteral(":/meshquality/profiles/default.json"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 bool Profile::read(const QString& path, Profile& profile, QString& problem)
 {
     QByteArray content;
@@ -50,8 +57,13 @@ bool Profile::read(const QString& path, Profile& profile, QString& problem)
         problem = QStringLiteral("cannot be read");
         return false;
     }
+    return parse(content, profile, problem);
+}
+
+bool Profile::parse(const QByteArray& text, Profile& profile, QString& problem)
+{
     QJsonParseError error{};
-    const QJsonDocument document = QJsonDocument::fromJson(content, &error);
+    const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     const QJsonArray thresholds = document.object().value(QLatin1String("thresholds")).toArray();
     if (error.error != QJsonParseError::NoError) {
         problem = QStringLiteral("%1 at byte %2").arg(error.errorString()).arg(error.offset);

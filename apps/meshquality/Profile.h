@@ -5,6 +5,7 @@
 
 #include <datamanager/meshquality/MeshQualityReport.h>
 
+#include <QByteArray>
 #include <QString>
 
 #include <vector>
@@ -31,8 +32,11 @@ struct Profile
 {
     std::vector<Threshold> thresholds;
 
-    /// Reads a JSON profile; false, with what is wrong in `problem`, when it is none.
+    /// The profile that is built into the program, apps/meshquality/profiles/default.json.
+    static QByteArray defaultText();
+    /// Reads a JSON profile from a file, or from its text; false, with what is wrong in `problem`, when it is none.
     static bool read(const QString& path, Profile& profile, QString& problem);
+    static bool parse(const QByteArray& text, Profile& profile, QString& problem);
 };
 
 } // namespace MeshQuality

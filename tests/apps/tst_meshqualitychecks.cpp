@@ -21,6 +21,9 @@ private Q_SLOTS:
     void checks();
     void countsNoNumberAsFailing();
     void checksEveryMesh();
+    void checksAgainstTheBuiltInProfile_data();
+    void checksAgainstTheBuiltInProfile();
+    void printsTheBuiltInProfile();
     void refusesProfiles_data();
     void refusesProfiles();
     void refusesWrongCalls_data();
@@ -118,6 +121,59 @@ void MeshQualityChecksTest::checksEveryMesh()
     QCOMPARE(check(threshold, {bad, good}).exitCode, 1);
 }
 
+void MeshQualityChecksTest::checksAgainstTheBuiltInProfile_data()
+{
+    QTest::addColumn<QString>("mesh");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QStringList>("findings");
+    const auto sample = [](const char* name) {
+        return QStringLiteral(DATAMANAGER_SOURCE_DIR "/samples/%1.msh").arg(QString::fromLatin1(name));
+    };
+    const auto list = [](const char* findings) {
+        return QString::fromLatin1(findings).split(QLatin1Char(','), Qt::SkipEmptyParts);
+    };
+    // Counted by another program in the CSV of each mesh.
+    QTest::newRow("thin-walled") << sample("thin-walled") << 0 << list("warn AspectRatio 12 ,warn AspectGamma 9 ");
+    QTest::newRow("plate-with-hole") << plate << 0
+                                     << list("warn EdgeRatio 8 ,warn AspectRatio 102 ,warn AspectGamma 82 ,"
+                                             "warn ScaledJacobian 6 ");
+    QTest::newRow("slivers") << slivers << 1
+                             << list("fail EdgeRatio 871 ,fail AspectRatio 1338 ,fail AspectGamma 1457 ,"
+                                     "fail ScaledJacobian 1114 ,fail Shape 291 ");
+    QTest::newRow("regular") << file("regular.msh", MeshFiles::oneTetrahedron(MeshFiles::regular())) << 0 << list("");
+    QTest::newRow("flat") << file("flat.msh",
+                                  MeshFiles::mesh({"1 0 0 0", "2 1 0 0", "3 0 1 0", "4 1 1 0"}, {"1 4 2 0 1 1 2 3 4"}))
+                          << 1
+                          << list("fail Volume 1 ,fail AspectRatio 1 ,fail AspectGamma 1 ,fail ScaledJacobian 1 ,"
+                                  "fail Shape 1 ");
+}
+
+void MeshQualityChecksTest::checksAgainstTheBuiltInProfile()
+{
+    QFETCH(QString, mesh);
+    QFETCH(QStringList, findings);
+    const ProgramRun run = runMeshQuality({QStringLiteral("check"), mesh});
+    QTEST(run.exitCode, "exitCode");
+    const QString output = QString::fromUtf8(run.output);
+    QCOMPARE(output.count(QStringLiteral("elements (")), findings.size());
+    for (const QString& finding : findings) {
+        QVERIFY2(output.contains(finding), qPrintable(output));
+    }
+}
+
+void MeshQualityChecksTest::printsTheBuiltInProfile()
+{
+    const ProgramRun run = runMeshQuality({QStringLiteral("check"), QStringLiteral("--print-profile")});
+    QCOMPARE(run.exitCode, 0);
+    QFile source(QStringLiteral(DATAMANAGER_SOURCE_DIR "/apps/meshquality/profiles/default.json"));
+    QVERIFY(source.open(QIODevice::ReadOnly));
+    QCOMPARE(run.output, source.readAll());
+    // A copy of it checks as it does itself.
+    const ProgramRun copied =
+        runMeshQuality({QStringLiteral("check"), QStringLiteral("--profile"), file("copy.json", run.output), slivers});
+    QCOMPARE(copied.output, runMeshQuality({QStringLiteral("check"), slivers}).output);
+}
+
 void MeshQualityChecksTest::refusesProfiles_data()
 {
     QTest::addColumn<QByteArray>("content");
@@ -151,7 +207,8 @@ void MeshQualityChecksTest::refusesWrongCalls_data()
     const auto row = [](const char* call, const char* what) {
         QTest::newRow(call) << QString::fromLatin1(call).split(QLatin1Char(' ')) << QByteArray(what);
     };
-    row("check a.msh", "check needs a profile");
+    row("check", "no mesh is given");
+    row("check --profile= a.msh", "--profile needs a file");
     row("check --profile p.json", "no mesh is given");
     row("check --prof p.json", "Unknown option 'prof'.");
     row("compare a.msh", "compare needs two meshes");
