@@ -6,6 +6,7 @@
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
 #include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
 
+#include <algorithm>
 #include <cmath>
 
 /// The peer: the composition of rotations as its rule reads, one recursion for each level at each level, on the same

@@ -13,6 +13,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <new>
 
 using DataManager::RelativeCoordinateSystem;
 using DataManager::RelativeCoordinateSystemDate;

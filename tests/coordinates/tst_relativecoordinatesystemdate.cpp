@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <functional>
 #include <memory>
+#include <utility>
 
 using DataManager::RelativeCoordinateSystem;
 using DataManager::RelativeCoordinateSystemDate;

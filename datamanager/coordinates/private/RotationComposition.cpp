@@ -7,6 +7,7 @@
 #include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
 
