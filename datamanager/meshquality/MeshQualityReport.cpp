@@ -142,7 +142,10 @@ bool MeshQualityReport::measure(const QString& path, const Progress& progress)
         return fail(Problem::Cancelled, QStringLiteral("cancelled"));
     }
     if (!isComplete || !scan.header.isReadable()) {
-        return fail(Problem::WrongFormat, conversionAdvice(scan.header.formatText(), path));
+        const QString format = scan.header.formatText();
+        fail(Problem::WrongFormat, conversionAdvice(format, path));
+        m_otherFormat = format;
+        return false;
     }
     scan.removeUnconnected();
     if (scan.tetrahedra.empty()) {

@@ -127,6 +127,8 @@ public:
     Problem problem() const { return m_problem; }
     /// What is wrong, for people, in English; empty when nothing is.
     QString problemText() const { return m_problemText; }
+    /// The format of a file of another one in words, such as "MSH 4.1 binary"; empty when that is not the problem.
+    QString otherFormat() const { return m_otherFormat; }
 
     /// Node lines read.
     qint64 nodeCount() const { return static_cast<qint64>(m_nodes.size()); }
@@ -177,6 +179,7 @@ private:
 
     Problem m_problem = Problem::None;
     QString m_problemText;
+    QString m_otherFormat;
     int m_invertedCount = 0;
     int m_flatCount = 0;
     int m_duplicateNodeCount = 0;
