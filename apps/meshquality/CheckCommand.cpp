@@ -7,6 +7,7 @@
 #include <meshquality/MeshInput.h>
 #include <meshquality/NumberText.h>
 #include <meshquality/Profile.h>
+#include <meshquality/ScoredMesh.h>
 
 #include <QCommandLineParser>
 
@@ -58,15 +59,16 @@ QString word(Verdict verdict)
 
 ExitCode checkMesh(const QString& file, const Profile& profile)
 {
-    MeshQualityReport report;
-    const ExitCode exitCode = measureMesh(file, report);
+    ScoredMesh mesh;
+    mesh.file = file;
+    const ExitCode exitCode = measureMesh(mesh);
     if (exitCode != Success) {
         return exitCode;
     }
     Verdict worst = Verdict::Pass;
     QStringList remarks;
     for (const Threshold& threshold : profile.thresholds) {
-        const Finding finding = check(report, threshold);
+        const Finding finding = check(mesh.report, threshold);
         worst = qMax(worst, finding.verdict);
         if (finding.verdict != Verdict::Pass) {
             remarks.append(word(finding.verdict) + QLatin1Char(' ') + finding.text);

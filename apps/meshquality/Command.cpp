@@ -13,7 +13,8 @@ namespace MeshQuality {
 
 namespace {
 
-const char* const helpText = R"(Quality of tetrahedral meshes in MSH 2 ASCII.
+const char* const helpText =
+    R"(Quality of tetrahedral meshes in MSH 2 ASCII and VTK XML (.vtu); with gmsh on the path in any MSH.
 
   meshquality report [OPTION...] MESH...
       Counts, means and spread of eleven metrics, and the model's score of each mesh.

@@ -116,7 +116,7 @@ QString comparison(const ScoredMesh& a, const ScoredMesh& b)
 ExitCode measure(const QString& file, ModelScore& model, const QString& modelFile, ScoredMesh& mesh)
 {
     mesh.file = file;
-    const ExitCode exitCode = measureMesh(file, mesh.report);
+    const ExitCode exitCode = measureMesh(mesh);
     if (exitCode != Success) {
         return exitCode;
     }

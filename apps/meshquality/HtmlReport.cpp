@@ -58,6 +58,15 @@ QString scoreText(const ScoredMesh& mesh)
                               : QString());
 }
 
+QString conversion(const ScoredMesh& mesh)
+{
+    return mesh.convertedFrom.isEmpty()
+               ? QString()
+               : Html::element("p", QStringLiteral("Converted from %1; line numbers are those of the conversion.")
+                                        .arg(mesh.convertedFrom)) +
+                     QLatin1Char('\n');
+}
+
 QString counts(const MeshQualityReport& report)
 {
     QString text = Html::element("p", QStringLiteral("%1 nodes, %2 tetrahedra, %3 inverted, %4 flat")
@@ -170,9 +179,9 @@ void HtmlReport::write(const ScoredMesh& mesh)
 {
     if (m_file.isWritable()) {
         const QString text = QStringLiteral("<section>\n") + Html::element("h2", mesh.file) + QLatin1Char('\n') +
-                             scoreText(mesh) + counts(mesh.report) + features(mesh.report) + histograms(mesh.report) +
-                             worst(mesh.report, m_options) + regions(mesh.report, m_options.worstBy) +
-                             QStringLiteral("</section>\n");
+                             scoreText(mesh) + conversion(mesh) + counts(mesh.report) + features(mesh.report) +
+                             histograms(mesh.report) + worst(mesh.report, m_options) +
+                             regions(mesh.report, m_options.worstBy) + QStringLiteral("</section>\n");
         m_file.write(text.toUtf8());
     }
 }

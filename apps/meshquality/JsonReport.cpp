@@ -148,6 +148,10 @@ void writeJson(const ScoredMesh& mesh, const ReportOptions& options, JsonWriter&
     json.beginObject();
     json.key(QStringLiteral("file"));
     json.value(mesh.file);
+    if (!mesh.convertedFrom.isEmpty()) {
+        json.key(QStringLiteral("convertedFrom"));
+        json.value(mesh.convertedFrom);
+    }
     writeCounts(mesh.report, json);
     json.key(QStringLiteral("features"));
     writeFeatures(mesh.report, json);

@@ -4,29 +4,87 @@
 #include <meshquality/MeshInput.h>
 
 #include <meshquality/Console.h>
+#include <meshquality/GmshConversion.h>
 #include <meshquality/ProgressLine.h>
+#include <meshquality/ScoredMesh.h>
+#include <meshquality/VtuConversion.h>
 
-#include <datamanager/meshquality/MeshQualityReport.h>
+#include <QFileInfo>
+#include <QTemporaryDir>
 
 namespace MeshQuality {
 
-ExitCode measureMesh(const QString& file, DataManager::MeshQualityReport& report, QString& problem)
+using DataManager::MeshQualityReport;
+
+namespace {
+
+bool measure(ScoredMesh& mesh, const QString& path)
 {
-    ProgressLine progress(file);
-    const bool isMeasured = report.measure(file, [&progress](qint64 read, qint64 size) {
+    ProgressLine progress(mesh.file);
+    return mesh.report.measure(path, [&progress](qint64 read, qint64 size) {
         progress.show(read, size);
         return true;
     });
-    problem = report.problemText();
-    return isMeasured ? Success : UnreadableInput;
 }
 
-ExitCode measureMesh(const QString& file, DataManager::MeshQualityReport& report)
+/// Converts into the directory; an empty path, with the reason in `problem`, when that fails.
+QString convertVtu(ScoredMesh& mesh, const QString& directory, QString& problem)
+{
+    const QString target = directory + QStringLiteral("/mesh.msh");
+    mesh.convertedFrom = QStringLiteral("VTK XML");
+    return MeshQuality::convertVtu(mesh.file, target, problem) ? target : QString();
+}
+
+QString convertMsh(ScoredMesh& mesh, const QString& directory, QString& problem)
+{
+    problem = mesh.report.problemText();
+    if (!GmshConversion::isAvailable() || !GmshConversion::accepts(mesh.file)) {
+        return QString();
+    }
+    mesh.convertedFrom = mesh.report.otherFormat();
+    const QString target = GmshConversion().convert(mesh.file, directory, problem);
+    if (target.isEmpty()) {
+        problem = QStringLiteral("%1, and gmsh cannot convert it: %2").arg(mesh.convertedFrom, problem);
+    }
+    return target;
+}
+
+ExitCode measureConverted(ScoredMesh& mesh, QString& problem)
+{
+    const QTemporaryDir directory;
+    const QString converted =
+        isVtkXml(mesh.file) ? convertVtu(mesh, directory.path(), problem) : convertMsh(mesh, directory.path(), problem);
+    if (converted.isEmpty()) {
+        return UnreadableInput;
+    }
+    if (measure(mesh, converted)) {
+        return Success;
+    }
+    problem = mesh.report.problem() == MeshQualityReport::Problem::WrongFormat
+                  ? QStringLiteral("%1, and gmsh cannot convert it: it wrote %2")
+                        .arg(mesh.convertedFrom, mesh.report.otherFormat())
+                  : mesh.report.problemText();
+    return UnreadableInput;
+}
+
+} // namespace
+
+ExitCode measureMesh(ScoredMesh& mesh, QString& problem)
+{
+    if (measure(mesh, mesh.file)) {
+        return Success;
+    }
+    problem = mesh.report.problemText();
+    return mesh.report.problem() == MeshQualityReport::Problem::WrongFormat ? measureConverted(mesh, problem)
+                                                                            : UnreadableInput;
+}
+
+ExitCode measureMesh(ScoredMesh& mesh)
 {
     QString problem;
-    const ExitCode exitCode = measureMesh(file, report, problem);
+    const ExitCode exitCode = measureMesh(mesh, problem);
     if (exitCode != Success) {
-        Console::printError(file, problem);
+        Console::printError(mesh.file, problem);
     }
     return exitCode;
 }

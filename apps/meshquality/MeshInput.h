@@ -7,17 +7,16 @@
 
 #include <QString>
 
-namespace DataManager {
-class MeshQualityReport;
-}
-
 namespace MeshQuality {
 
-/// Measures a mesh file into `report`. On a terminal, standard error shows how far it is when the file is large.
-/// UnreadableInput, with the reason in `problem`, when there are no measures.
-ExitCode measureMesh(const QString& file, DataManager::MeshQualityReport& report, QString& problem);
+struct ScoredMesh;
+
+/// Measures the mesh in `mesh.file` into `mesh.report`. A file in another format is converted first, if that is
+/// possible here. On a terminal, standard error shows how far it is when the file is large. UnreadableInput, with the
+/// reason in `problem`, when there are no measures.
+ExitCode measureMesh(ScoredMesh& mesh, QString& problem);
 
 /// The same, with the reason on standard error.
-ExitCode measureMesh(const QString& file, DataManager::MeshQualityReport& report);
+ExitCode measureMesh(ScoredMesh& mesh);
 
 } // namespace MeshQuality

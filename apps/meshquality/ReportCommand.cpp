@@ -47,7 +47,7 @@ private:
         ScoredMesh mesh;
         mesh.file = file;
         QString problem;
-        const ExitCode exitCode = measureMesh(file, mesh.report, problem);
+        const ExitCode exitCode = measureMesh(mesh, problem);
         if (exitCode != Success) {
             return tellProblem(file, problem, exitCode);
         }

@@ -11,6 +11,9 @@ namespace MeshQuality {
 struct ScoredMesh
 {
     QString file;
+    /// The format of a file that had to be converted before it was measured. The lines in the report are then those of
+    /// the conversion. Otherwise empty.
+    QString convertedFrom;
     DataManager::MeshQualityReport report;
     float score = 0.0F;
 };

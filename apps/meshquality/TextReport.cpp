@@ -24,6 +24,14 @@ QString number(double value)
     return QString::fromLatin1(sixDigits(value));
 }
 
+QString conversion(const ScoredMesh& mesh)
+{
+    return mesh.convertedFrom.isEmpty()
+               ? QString()
+               : QStringLiteral("  converted from %1; line numbers are those of the conversion\n")
+                     .arg(mesh.convertedFrom);
+}
+
 QString counts(const MeshQualityReport& report)
 {
     return QStringLiteral("  %1 nodes, %2 tetrahedra (%3 inverted, %4 flat)\n")
@@ -141,8 +149,8 @@ QString score(const ScoredMesh& mesh)
 
 QString textReport(const ScoredMesh& mesh)
 {
-    return mesh.file + QLatin1Char('\n') + counts(mesh.report) + skippedLines(mesh.report) + features(mesh.report) +
-           score(mesh);
+    return mesh.file + QLatin1Char('\n') + conversion(mesh) + counts(mesh.report) + skippedLines(mesh.report) +
+           features(mesh.report) + score(mesh);
 }
 
 } // namespace MeshQuality

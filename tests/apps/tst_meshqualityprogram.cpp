@@ -400,11 +400,11 @@ void MeshQualityProgramTest::refusesUnreadableMeshes_data()
     QTest::newRow("missing") << path("none.msh") << QByteArray("no such file");
     QTest::newRow("directory") << m_directory.path() << QByteArray("not a regular file");
     QTest::newRow("pipe") << pipe << QByteArray("not a regular file");
-    const QString newer = file("newer.msh", "$MeshFormat\n4.1 0 8\n$EndMeshFormat\n");
-    QTest::newRow("version") << newer
+    const QString script = file("script.msh", "// $MeshFormat\n4.1 0 8\n$EndMeshFormat\n");
+    QTest::newRow("version") << script
                              << QByteArray("MSH 4.1 ASCII, not MSH 2 ASCII; convert it with: "
                                            "gmsh -save -format msh22 -o converted.msh '" +
-                                           newer.toUtf8() + "'");
+                                           script.toUtf8() + "'");
     QTest::newRow("no tetrahedra") << file("flat.msh", MeshFiles::mesh({"1 0 0 0"}, {})) << QByteArray("no tetrahedra");
 }
 
