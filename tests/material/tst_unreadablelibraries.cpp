@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QtTest>
 
+#include <csignal>
 #include <functional>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -46,14 +47,19 @@ void loadBoth(MaterialFixture& fixture)
     fixture.manager().initProjectMaterial();
 }
 
-void loadWithoutDescriptors(MaterialFixture& fixture)
+void withLimit(decltype(RLIMIT_NOFILE) resource, rlim_t limit, const std::function<void()>& action)
 {
     rlimit old = {};
-    QCOMPARE(::getrlimit(RLIMIT_NOFILE, &old), 0);
-    const rlimit narrow = {3, old.rlim_max};
-    QCOMPARE(::setrlimit(RLIMIT_NOFILE, &narrow), 0);
-    loadBoth(fixture);
-    QCOMPARE(::setrlimit(RLIMIT_NOFILE, &old), 0);
+    QCOMPARE(::getrlimit(resource, &old), 0);
+    const rlimit narrow = {limit, old.rlim_max};
+    QCOMPARE(::setrlimit(resource, &narrow), 0);
+    action();
+    QCOMPARE(::setrlimit(resource, &old), 0);
+}
+
+void loadWithoutDescriptors(MaterialFixture& fixture)
+{
+    withLimit(RLIMIT_NOFILE, 3, [&fixture] { loadBoth(fixture); });
 }
 
 void loadWithoutPermission(MaterialFixture& fixture)
@@ -372,30 +378,34 @@ void TestUnreadableLibraries::keepsUnreadableFilesOfClearedProjects()
     QCOMPARE(contentOf(unreadable(m_fixture->projectPath())), isKept ? content : QByteArray());
 }
 
+/// Removing would work, copying does not.
 void TestUnreadableLibraries::leavesUnreadableFilesThatCannotBeKept()
 {
     GlobalConfig::setIsDevelop(true);
-    const QString directory = m_fixture->projectDirectory();
+    const QByteArray precious = R"({"materialList":[{"id":1,"englishName":"precious"}]})";
     const QString path = m_fixture->projectPath();
-    writeContent(path, "precious");
-    QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadOther | QFile::WriteOther));
-    manager().initProjectMaterial();
-    const auto readable = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
-    QVERIFY(QFile::setPermissions(directory, readable));
-    const auto restore = qScopeGuard([&] { QFile::setPermissions(directory, readable | QFile::WriteOwner); });
+    writeContent(path, precious);
     QStringList lines;
     {
-        const Nobody nobody;
         LogLines log;
-        // The second time, too, although it could be taken for a file that was never loaded.
-        manager().clearProjectMaterial();
-        manager().clearProjectMaterial();
+        withLimit(RLIMIT_NOFILE, 3, [this] { manager().initProjectMaterial(); });
+        std::signal(SIGXFSZ, SIG_IGN);
+        withLimit(RLIMIT_FSIZE, 0, [this] {
+            // The second time, too, although it reads as a library and could be taken for one that was never loaded.
+            manager().clearProjectMaterial();
+            manager().clearProjectMaterial();
+        });
         lines = log.take();
     }
     const QString line = text("Remove project material library file fail, please check path: %1.").arg(path);
-    QCOMPARE(lines, (QStringList{line, line}));
-    QCOMPARE(contentOf(path), QByteArray("precious"));
+    QCOMPARE(lines,
+             (QStringList{text("Read project material library file fail, please check path: ") + path, line, line}));
+    QCOMPARE(contentOf(path), precious);
+    QCOMPARE(directoryOf(path), QStringList{text("MaterialLibrary.json")});
     QCOMPARE(m_fixture->project(), text("next 1"));
+    manager().clearProjectMaterial();
+    QVERIFY(!QFile::exists(path));
+    QCOMPARE(contentOf(unreadable(path)), precious);
 }
 
 /// Neither the first save after the file was loaded reads it again, nor the saves after that.
