@@ -57,8 +57,9 @@ public:
     void deleteSelectedData(BaseModule::SelectModel model, int firstID);
     /// Deselects everything, item by item. At the signal of an item its record is free and has identifiers -1, and the
     /// list still holds it and all others. The list is emptied after the last of these signals; if a listener calls
-    /// anything that changes the list, the records that are free leave it first. Items that a listener selects meanwhile
-    /// stay selected. A clearing that a listener begins meanwhile takes out all items before its first signal.
+    /// anything that changes the list, the records that are free leave it first. Items that a listener selects
+    /// meanwhile stay selected. A clearing that a listener begins meanwhile takes out all items before its first
+    /// signal.
     void clearAllSelectedTarget();
 
     /// The pairs of the model's items, in order of selection.
