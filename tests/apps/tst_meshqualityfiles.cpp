@@ -43,6 +43,8 @@ private Q_SLOTS:
     void writesWebPageWithoutNumbers();
     void tellsWhatCannotBeWritten_data();
     void tellsWhatCannotBeWritten();
+    void keepsWhatWasThereWhenTheSpaceEnds_data();
+    void keepsWhatWasThereWhenTheSpaceEnds();
     void showsProgressOnTerminalsOnly();
 
 private:
@@ -281,6 +283,36 @@ void MeshQualityFilesTest::tellsWhatCannotBeWritten()
     const ProgramRun run = report({option, impossible, slivers});
     QCOMPARE(run.exitCode, 2);
     QCOMPARE(run.errors, "meshquality: " + impossible.toUtf8() + ": cannot be written\n");
+}
+
+void MeshQualityFilesTest::keepsWhatWasThereWhenTheSpaceEnds_data()
+{
+    QTest::addColumn<QString>("option");
+    for (const char* option : {"--csv", "--vtu", "--html"}) {
+        QTest::newRow(option) << QString::fromLatin1(option);
+    }
+}
+
+void MeshQualityFilesTest::keepsWhatWasThereWhenTheSpaceEnds()
+{
+    QFETCH(QString, option);
+    QTemporaryDir directory;
+    const QString result = directory.filePath(QStringLiteral("result"));
+    MeshFiles::write(result, "old");
+    // No file may grow above some kilobytes, and who tries gets an error instead of the signal.
+    QProcess process;
+    process.start(QStringLiteral("/bin/sh"),
+                  {QStringLiteral("-c"),
+                   QStringLiteral("trap '' XFSZ; ulimit -f 8; exec " MESHQUALITY_PROGRAM " report \"$@\""),
+                   QStringLiteral("sh"), option, result, slivers});
+    QVERIFY(process.waitForFinished(120000));
+    QCOMPARE(process.exitCode(), 2);
+    QCOMPARE(process.readAllStandardError(), "meshquality: " + result.toUtf8() + ": cannot be written\n");
+    QFile kept(result);
+    QVERIFY(kept.open(QIODevice::ReadOnly));
+    QCOMPARE(kept.readAll(), QByteArray("old"));
+    QCOMPARE(QDir(directory.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList{QStringLiteral("result")});
 }
 
 void MeshQualityFilesTest::showsProgressOnTerminalsOnly()
