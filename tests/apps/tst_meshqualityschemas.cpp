@@ -128,7 +128,7 @@ void MeshQualitySchemasTest::schemaRefusesOtherProfiles_data()
     };
     row("{}", "#: lacks thresholds");
     row(R"({"thresholds": []})", "#/thresholds: minItems");
-    row(R"({"thresholds": [{"metric": "Beauty", "minimum": 1}]})", "#/thresholds/0/metric: pattern");
+    row(R"({"thresholds": [{"metric": "Beauty", "minimum": 1}]})", "#/thresholds/0/metric: enum");
     row(R"({"thresholds": [{"metric": "Shape"}]})", "#/thresholds/0: fits 0 alternatives");
     row(R"({"thresholds": [{"metric": "Shape", "minimum": "1"}]})", "#/thresholds/0/minimum: type");
     row(R"({"thresholds": [{"metric": "Shape", "minimum": 1, "allowedPercent": 101}]})",

@@ -93,6 +93,9 @@ QString JsonSchema::checkKeyword(const QJsonObject& schema, const QString& keywo
     if (keyword == QLatin1String("type")) {
         return isOfAnyType(value, rule) ? QString() : wrong;
     }
+    if (keyword == QLatin1String("enum")) {
+        return rule.toArray().contains(value) ? QString() : wrong;
+    }
     if (keyword == QLatin1String("minimum")) {
         return value.isDouble() && value.toDouble() < rule.toDouble() ? wrong : QString();
     }
