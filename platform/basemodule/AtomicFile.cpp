@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 DataManager contributors
 // SPDX-License-Identifier: BSD-3-Clause
 
-#include <basemodule/AtomicFile.h>
+#include <basemodule/private/AtomicFile.h>
 
 #include <QByteArray>
 #include <QCryptographicHash>

@@ -3,7 +3,7 @@
 
 #include <basemodule/DeserializerBase.h>
 
-#include <basemodule/ValueCodec.h>
+#include <basemodule/private/ValueCodec.h>
 
 #include <QJsonDocument>
 #include <QJsonObject>

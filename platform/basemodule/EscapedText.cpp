@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 DataManager contributors
 // SPDX-License-Identifier: BSD-3-Clause
 
-#include <basemodule/EscapedText.h>
+#include <basemodule/private/EscapedText.h>
 
 #include <QString>
 

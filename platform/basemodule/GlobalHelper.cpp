@@ -3,7 +3,7 @@
 
 #include <basemodule/GlobalHelper.h>
 
-#include <basemodule/AtomicFile.h>
+#include <basemodule/private/AtomicFile.h>
 
 #include <QCoreApplication>
 #include <QFile>

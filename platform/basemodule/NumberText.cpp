@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 DataManager contributors
 // SPDX-License-Identifier: BSD-3-Clause
 
-#include <basemodule/NumberText.h>
+#include <basemodule/private/NumberText.h>
 
-#include <basemodule/JsonNumber.h>
+#include <basemodule/private/JsonNumber.h>
 
 #include <QByteArray>
 #include <QJsonValue>

@@ -3,7 +3,7 @@
 
 #include <basemodule/RecordType.h>
 
-#include <basemodule/ValueCodec.h>
+#include <basemodule/private/ValueCodec.h>
 
 #include <QJsonArray>
 #include <QJsonObject>

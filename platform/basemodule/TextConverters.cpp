@@ -3,8 +3,8 @@
 
 #include <basemodule/GlobalHelper.h>
 
-#include <basemodule/EscapedText.h>
-#include <basemodule/NumberText.h>
+#include <basemodule/private/EscapedText.h>
+#include <basemodule/private/NumberText.h>
 
 #include <QStringRef>
 #include <QVector>
