@@ -3,7 +3,7 @@
 
 #include <materials/CheckCommand.h>
 
-#include <materials/Console.h>
+#include <console/Console.h>
 #include <materials/LibraryCheck.h>
 #include <materials/LibraryText.h>
 #include <materials/Options.h>
@@ -45,7 +45,7 @@ void report(const Options& options, const QString& path, const QVector<Fault>& f
 ExitCode runCheck(const Options& options)
 {
     if (options.operands.size() > 1) {
-        Console::printError(QStringLiteral("check takes one file; see materials --help"));
+        Console::printUsageError(QStringLiteral("check takes one file"));
         return UsageError;
     }
     QString path;

@@ -3,8 +3,8 @@
 
 #include <materials/Command.h>
 
+#include <console/Console.h>
 #include <materials/CheckCommand.h>
-#include <materials/Console.h>
 #include <materials/ExportCommand.h>
 #include <materials/ImportCommand.h>
 #include <materials/LibraryLog.h>
@@ -38,12 +38,10 @@ const char* const helpText = R"(Material libraries.
   --dry-run     only compare
 
 Exit codes: 0 ok, 1 faults found or a material is missing, 2 wrong call,
-3 a file cannot be read or written.
+3 a file or standard output cannot be read or written.
 )";
 
-} // namespace
-
-ExitCode runCommand(const QStringList& arguments)
+ExitCode runNamedCommand(const QStringList& arguments)
 {
     static const QHash<QString, ExitCode (*)(const Options&)> commands = {{QStringLiteral("list"), runList},
                                                                           {QStringLiteral("show"), runShow},
@@ -57,12 +55,19 @@ ExitCode runCommand(const QStringList& arguments)
     }
     if (!options.fault.isEmpty() || !commands.contains(options.command)) {
         const QString unknown = QStringLiteral("unknown command '%1'").arg(options.command);
-        Console::printError((options.fault.isEmpty() ? unknown : options.fault) +
-                            QStringLiteral("; see materials --help"));
+        Console::printUsageError(options.fault.isEmpty() ? unknown : options.fault);
         return UsageError;
     }
     startLibraryLog();
     return commands.value(options.command)(options);
+}
+
+} // namespace
+
+ExitCode runCommand(const QStringList& arguments)
+{
+    const ExitCode exitCode = runNamedCommand(arguments);
+    return Console::isOutputWritten() ? exitCode : UnreadableInput;
 }
 
 } // namespace Materials

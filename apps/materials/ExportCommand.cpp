@@ -3,7 +3,7 @@
 
 #include <materials/ExportCommand.h>
 
-#include <materials/Console.h>
+#include <console/Console.h>
 #include <materials/Library.h>
 #include <materials/MaterialCsv.h>
 #include <materials/MaterialJson.h>

@@ -3,8 +3,8 @@
 
 #include <materials/ImportCommand.h>
 
+#include <console/Console.h>
 #include <materials/Comparison.h>
-#include <materials/Console.h>
 #include <materials/LibraryLog.h>
 #include <materials/MaterialCsv.h>
 #include <materials/MaterialJson.h>
@@ -148,7 +148,7 @@ ExitCode copy(const Options& options, const Source& source, const QList<Comparis
 ExitCode runImport(const Options& options)
 {
     if (options.operands.isEmpty()) {
-        Console::printError(QStringLiteral("import takes a library or a file; see materials --help"));
+        Console::printUsageError(QStringLiteral("import takes a library or a file"));
         return UsageError;
     }
     const Source source = readSource(options);

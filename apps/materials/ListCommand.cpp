@@ -3,7 +3,7 @@
 
 #include <materials/ListCommand.h>
 
-#include <materials/Console.h>
+#include <console/Console.h>
 #include <materials/Library.h>
 #include <materials/MaterialJson.h>
 #include <materials/MaterialMembers.h>
@@ -98,7 +98,7 @@ ExitCode runList(const Options& options)
 ExitCode runShow(const Options& options)
 {
     if (options.operands.size() != 1) {
-        Console::printError(QStringLiteral("show takes one identifier or name; see materials --help"));
+        Console::printUsageError(QStringLiteral("show takes one identifier or name"));
         return UsageError;
     }
     const QString fault = openLibrary(options.library, options.isPlain, false);

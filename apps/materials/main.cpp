@@ -3,10 +3,13 @@
 
 #include <materials/Command.h>
 
+#include <console/Console.h>
+
 #include <QCoreApplication>
 
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
+    Console::setProgramName(QStringLiteral("materials"));
     return Materials::runCommand(QCoreApplication::arguments());
 }

@@ -3,7 +3,7 @@
 
 #include <meshquality/CheckCommand.h>
 
-#include <meshquality/Console.h>
+#include <console/Console.h>
 #include <meshquality/MeshInput.h>
 #include <meshquality/NumberText.h>
 #include <meshquality/Profile.h>

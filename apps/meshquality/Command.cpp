@@ -3,9 +3,9 @@
 
 #include <meshquality/Command.h>
 
+#include <console/Console.h>
 #include <meshquality/CheckCommand.h>
 #include <meshquality/CompareCommand.h>
-#include <meshquality/Console.h>
 #include <meshquality/PredictCommand.h>
 #include <meshquality/ReportCommand.h>
 
@@ -40,12 +40,11 @@ const char* const helpText =
   meshquality --help
   meshquality --version
 
-Exit codes: 0 ok, 1 a mesh fails its check, 2 wrong call, 3 a mesh cannot be read, 4 the model cannot be used.
+Exit codes: 0 ok, 1 a mesh fails its check, 2 wrong call or a result cannot be written,
+3 a mesh cannot be read, 4 the model cannot be used; of several the highest.
 )";
 
-} // namespace
-
-ExitCode runCommand(const QStringList& arguments)
+ExitCode runNamedCommand(const QStringList& arguments)
 {
     const QString command = arguments.value(1);
     const QStringList rest = arguments.mid(1);
@@ -72,6 +71,14 @@ ExitCode runCommand(const QStringList& arguments)
     Console::printUsageError(command.isEmpty() ? QStringLiteral("no command is given")
                                                : QStringLiteral("unknown command '%1'").arg(command));
     return UsageError;
+}
+
+} // namespace
+
+ExitCode runCommand(const QStringList& arguments)
+{
+    const ExitCode exitCode = runNamedCommand(arguments);
+    return Console::isOutputWritten() ? exitCode : qMax(exitCode, UsageError);
 }
 
 } // namespace MeshQuality

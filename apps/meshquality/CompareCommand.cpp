@@ -3,7 +3,7 @@
 
 #include <meshquality/CompareCommand.h>
 
-#include <meshquality/Console.h>
+#include <console/Console.h>
 #include <meshquality/MeshInput.h>
 #include <meshquality/ModelScore.h>
 #include <meshquality/NumberText.h>

@@ -3,7 +3,7 @@
 
 #include <meshquality/MeshInput.h>
 
-#include <meshquality/Console.h>
+#include <console/Console.h>
 #include <meshquality/GmshConversion.h>
 #include <meshquality/ProgressLine.h>
 #include <meshquality/ScoredMesh.h>

@@ -3,7 +3,7 @@
 
 #include <meshquality/ReportCommand.h>
 
-#include <meshquality/Console.h>
+#include <console/Console.h>
 #include <meshquality/CsvReport.h>
 #include <meshquality/HtmlReport.h>
 #include <meshquality/JsonReport.h>

@@ -3,7 +3,7 @@
 
 #include <meshquality/ResultFile.h>
 
-#include <meshquality/Console.h>
+#include <console/Console.h>
 
 namespace MeshQuality {
 

@@ -5,12 +5,28 @@
 
 #include <QProcess>
 
-ProgramRun runMeshQuality(const QStringList& arguments, const QString& program)
+namespace {
+
+ProgramRun finish(QProcess& process, const QString& program, const QStringList& arguments)
 {
-    QProcess process;
     process.start(program.isEmpty() ? QStringLiteral(MESHQUALITY_PROGRAM) : program, arguments);
     if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit) {
         return {};
     }
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+} // namespace
+
+ProgramRun runMeshQuality(const QStringList& arguments, const QString& program)
+{
+    QProcess process;
+    return finish(process, program, arguments);
+}
+
+ProgramRun runMeshQualityInto(const QString& output, const QStringList& arguments)
+{
+    QProcess process;
+    process.setStandardOutputFile(output);
+    return finish(process, QString(), arguments);
 }

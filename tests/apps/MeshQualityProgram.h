@@ -16,3 +16,6 @@ struct ProgramRun
 
 /// Runs the program that was built, or a copy of it.
 ProgramRun runMeshQuality(const QStringList& arguments, const QString& program = QString());
+
+/// The same, with its standard output into a file or device.
+ProgramRun runMeshQualityInto(const QString& output, const QStringList& arguments);

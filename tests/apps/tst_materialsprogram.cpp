@@ -47,6 +47,7 @@ private Q_SLOTS:
     void init();
     void refusesWrongCalls_data();
     void refusesWrongCalls();
+    void tellsThatOutputIsLost();
     void lists();
     void shows();
     void importsFromTheSoftwareLibrary();
@@ -125,6 +126,21 @@ void TestMaterialsProgram::refusesWrongCalls()
     QCOMPARE(result.exitCode, 2);
     QVERIFY(result.errors.startsWith(text("materials: ")));
     QCOMPARE(result.output, QString());
+}
+
+void TestMaterialsProgram::tellsThatOutputIsLost()
+{
+    if (!QFile::exists(text("/dev/full"))) {
+        QSKIP("there is no device that is always full");
+    }
+    for (const char* command : {"list", "list --json", "show 1", "export", "--help"}) {
+        QProcess process;
+        process.setStandardOutputFile(text("/dev/full"));
+        process.start(path("bin/materials"), text(command).split(QLatin1Char(' ')));
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.readAllStandardError(), QByteArray("materials: standard output: cannot be written\n"));
+        QCOMPARE(process.exitCode(), 3);
+    }
 }
 
 void TestMaterialsProgram::lists()

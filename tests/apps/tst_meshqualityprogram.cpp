@@ -27,6 +27,9 @@ class MeshQualityProgramTest : public QObject
 private Q_SLOTS:
     void tellsAboutItself_data();
     void tellsAboutItself();
+    void listsOptionsAndExitCodes();
+    void tellsThatOutputIsLost_data();
+    void tellsThatOutputIsLost();
     void refusesWrongCalls_data();
     void refusesWrongCalls();
     void reportsForPeople();
@@ -138,6 +141,55 @@ void MeshQualityProgramTest::tellsAboutItself()
     QCOMPARE(run.errors, QByteArray());
 }
 
+void MeshQualityProgramTest::listsOptionsAndExitCodes()
+{
+    const QString help = QString::fromUtf8(runMeshQuality({QStringLiteral("--help")}).output);
+    const QString ofReport =
+        help.mid(help.indexOf(QStringLiteral("meshquality report"))).section(QStringLiteral("meshquality check"), 0, 0);
+    QStringList options;
+    QRegularExpressionMatchIterator match =
+        QRegularExpression(QStringLiteral("^ +--([a-z-]+)( [A-Z]+)? "), QRegularExpression::MultilineOption)
+            .globalMatch(ofReport);
+    while (match.hasNext()) {
+        const QRegularExpressionMatch option = match.next();
+        options.append(option.captured(1));
+        // Each is an option indeed, and takes a value only if the list says so.
+        QStringList call = report + QStringList{QStringLiteral("--") + option.captured(1)};
+        const QByteArray errors = runMeshQuality(call).errors;
+        QVERIFY2(!errors.contains("Unknown option"), errors.constData());
+        QCOMPARE(errors.contains("Missing value"), !option.captured(2).isEmpty());
+    }
+    for (const char* name : {"json", "csv", "worst", "by", "histogram", "by-region", "model"}) {
+        QVERIFY2(options.contains(QString::fromLatin1(name)), name);
+    }
+    for (const char* call : {"check --profile FILE MESH...", "compare [--model FILE] A B", "predict"}) {
+        QVERIFY2(help.contains(QStringLiteral("  meshquality ") + QString::fromLatin1(call)), call);
+    }
+    QVERIFY(help.simplified().endsWith(
+        QStringLiteral("Exit codes: 0 ok, 1 a mesh fails its check, 2 wrong call or a result cannot be written, 3 a "
+                       "mesh cannot be read, 4 the model cannot be used; of several the highest.")));
+}
+
+void MeshQualityProgramTest::tellsThatOutputIsLost_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("table") << (report + QStringList{slivers, slivers});
+    QTest::newRow("JSON") << (report + QStringList{QStringLiteral("--json"), QStringLiteral("-"), slivers});
+    QTest::newRow("compare") << QStringList{QStringLiteral("compare"), slivers, slivers};
+    QTest::newRow("help") << QStringList{QStringLiteral("--help")};
+}
+
+void MeshQualityProgramTest::tellsThatOutputIsLost()
+{
+    if (!QFile::exists(QStringLiteral("/dev/full"))) {
+        QSKIP("there is no device that is always full");
+    }
+    QFETCH(QStringList, arguments);
+    const ProgramRun run = runMeshQualityInto(QStringLiteral("/dev/full"), arguments);
+    QCOMPARE(run.errors, QByteArray("meshquality: standard output: cannot be written\n"));
+    QCOMPARE(run.exitCode, 2);
+}
+
 void MeshQualityProgramTest::refusesWrongCalls_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -150,8 +202,9 @@ void MeshQualityProgramTest::refusesWrongCalls_data()
     row("rate a.msh", "unknown command 'rate'");
     row("report", "no mesh is given");
     row("report --json out.json", "no mesh is given");
-    row("report --jsn a.msh", "Unknown option 'jsn'.");
-    row("report a.msh --model", "Missing value after '--model'.");
+    row("report --jsn a.msh", "Unknown option 'jsn'");
+    row("report a.msh --model", "Missing value after '--model'");
+    row("report --version a.msh", "Unknown option 'version'");
     row("report --json= a.msh", "--json needs a file");
     row("report --vtu= a.msh", "--vtu needs a file");
     row("report --html= a.msh", "--html needs a file");

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <console/Console.h>
+
+#include <cstdio>
+
+namespace Console {
+
+namespace {
+
+QString& programName()
+{
+    static QString name;
+    return name;
+}
+
+bool isWritten = true;
+
+bool write(std::FILE* stream, const QString& text)
+{
+    const QByteArray bytes = text.toUtf8();
+    const std::size_t size = static_cast<std::size_t>(bytes.size());
+    const bool isTaken = std::fwrite(bytes.constData(), 1, size, stream) == size;
+    return std::fflush(stream) == 0 && isTaken;
+}
+
+} // namespace
+
+void setProgramName(const QString& name)
+{
+    programName() = name;
+}
+
+bool print(const QString& text)
+{
+    if (isWritten && !write(stdout, text)) {
+        isWritten = false;
+        printError(QStringLiteral("standard output"), QStringLiteral("cannot be written"));
+    }
+    return isWritten;
+}
+
+bool isOutputWritten()
+{
+    return isWritten;
+}
+
+void printError(const QString& what)
+{
+    write(stderr, programName() + QStringLiteral(": ") + what + QLatin1Char('\n'));
+}
+
+void printError(const QString& subject, const QString& what)
+{
+    printError(subject + QStringLiteral(": ") + what);
+}
+
+void printUsageError(const QString& what)
+{
+    const QString sentence = what.endsWith(QLatin1Char('.')) ? what.chopped(1) : what;
+    printError(sentence + QStringLiteral("; see %1 --help").arg(programName()));
+}
+
+} // namespace Console
