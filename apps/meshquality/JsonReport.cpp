@@ -19,11 +19,29 @@ void writeCounts(const MeshQualityReport& report, JsonWriter& json)
                                                      {"tetrahedra", report.elementCount()},
                                                      {"inverted", report.invertedCount()},
                                                      {"flat", report.flatCount()},
-                                                     {"skippedLines", report.skippedLines().size()}};
+                                                     {"skippedLines", report.skippedLineCount()}};
     for (const auto& [name, count] : counts) {
         json.key(QString::fromLatin1(name));
         json.value(count);
     }
+}
+
+/// What came after the first edition of the format; programs may count on the order of what is before.
+void writeDoubts(const MeshQualityReport& report, JsonWriter& json)
+{
+    const std::pair<const char*, qint64> counts[] = {{"duplicateNodes", report.duplicateNodeCount()},
+                                                     {"misnumberedNodes", report.misnumberedNodes().count},
+                                                     {"otherTagCounts", report.otherTagCounts().count}};
+    for (const auto& [name, count] : counts) {
+        json.key(QString::fromLatin1(name));
+        json.value(count);
+    }
+    json.key(QStringLiteral("warnings"));
+    json.beginArray();
+    for (const QString& warning : report.warnings()) {
+        json.value(warning);
+    }
+    json.endArray();
 }
 
 void writeFeatures(const MeshQualityReport& report, JsonWriter& json)
@@ -160,6 +178,7 @@ void writeJson(const ScoredMesh& mesh, const ReportOptions& options, JsonWriter&
     writeMetrics(summaries(mesh.report), json);
     writeRegions(mesh.report, json);
     writeWorst(mesh.report, options, json);
+    writeDoubts(mesh.report, json);
     json.endObject();
 }
 

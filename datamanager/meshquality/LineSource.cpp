@@ -10,6 +10,43 @@ namespace DataManager {
 namespace {
 
 constexpr std::size_t pieceSize = std::size_t(1) << 18;
+// What fits into the buffer as it is at first need not be cut.
+constexpr std::size_t longestUncut = pieceSize / 2;
+
+/// The section markers in a text that comes in pieces.
+class MarkerSearch
+{
+public:
+    /// A marker that lies across two pieces is found when the second begins with this many bytes of the first.
+    static constexpr std::size_t overlap = 11;
+    /// All markers together.
+    static constexpr std::size_t longestResult = 36;
+
+    void take(const char* begin, const char* end)
+    {
+        const std::string_view text(begin, static_cast<std::size_t>(end - begin));
+        if (text.find('$') == std::string_view::npos) {
+            return;
+        }
+        for (std::size_t i = 0; i < sectionMarkers.size(); ++i) {
+            m_isFound[i] = m_isFound[i] || text.find(sectionMarkers[i]) != std::string_view::npos;
+        }
+    }
+    /// Those that were found, one after the other.
+    QByteArray found() const
+    {
+        QByteArray text;
+        for (std::size_t i = 0; i < sectionMarkers.size(); ++i) {
+            if (m_isFound[i]) {
+                text.append(sectionMarkers[i].data(), static_cast<int>(sectionMarkers[i].size()));
+            }
+        }
+        return text;
+    }
+
+private:
+    std::array<bool, sectionMarkers.size()> m_isFound{};
+};
 
 } // namespace
 
@@ -25,7 +62,14 @@ LineSource::LineSource(const QString& path) : m_file(path), m_buffer(pieceSize)
 bool LineSource::nextAcrossPieces()
 {
     std::size_t searched = static_cast<std::size_t>(m_end - m_position);
-    while (readPiece()) {
+    while (m_keepsLongLines || searched <= longestUncut) {
+        if (!readPiece()) {
+            if (m_position == m_end) {
+                return false;
+            }
+            accept(m_end);
+            return true;
+        }
         const std::size_t unsearched = static_cast<std::size_t>(m_end - m_position) - searched;
         if (const void* newline = std::memchr(m_position + searched, '\n', unsearched)) {
             accept(static_cast<const char*>(newline) + 1);
@@ -33,31 +77,70 @@ bool LineSource::nextAcrossPieces()
         }
         searched += unsearched;
     }
-    if (m_position == m_end) {
-        return false;
-    }
-    accept(m_end);
+    acceptAbridged();
     return true;
+}
+
+// The line's first bytes stay at the start of the buffer. Its rest passes through the buffer behind them, far enough
+// away that the first bytes and all markers fit in before the newline, wherever that is found.
+void LineSource::acceptAbridged()
+{
+    const std::size_t kept = static_cast<std::size_t>(m_end - m_position);
+    char* const head = m_buffer.data();
+    std::memmove(head, m_position, kept);
+    MarkerSearch markers;
+    markers.take(head + headSize - MarkerSearch::overlap, head + kept);
+    char* const rest = head + headSize + MarkerSearch::longestResult;
+    char* const fresh = rest + MarkerSearch::overlap;
+    m_end = head + kept;
+    const char* newline = nullptr;
+    while (newline == nullptr) {
+        std::memmove(rest, m_end - MarkerSearch::overlap, MarkerSearch::overlap);
+        const std::size_t count = readInto(fresh);
+        m_end = fresh + count;
+        newline = static_cast<const char*>(std::memchr(fresh, '\n', count));
+        markers.take(rest, newline == nullptr ? m_end : newline);
+        if (count == 0) {
+            break;
+        }
+    }
+    const QByteArray found = markers.found();
+    const std::size_t size = headSize + static_cast<std::size_t>(found.size());
+    // Without a newline the file is at its end.
+    char* const line = newline == nullptr ? head : head + (newline - head) - size;
+    std::memmove(line, head, headSize);
+    std::memcpy(line + headSize, found.constData(), static_cast<std::size_t>(found.size()));
+    m_end = newline == nullptr ? line + size : m_end;
+    m_position = line;
+    m_dollar = nullptr;
+    accept(newline == nullptr ? m_end : newline + 1);
 }
 
 bool LineSource::readPiece()
 {
-    if (!m_file.isOpen()) {
-        return false;
-    }
     const std::size_t kept = static_cast<std::size_t>(m_end - m_position);
     if (m_position != m_buffer.data()) {
         std::memmove(m_buffer.data(), m_position, kept);
     }
     if (kept + pieceSize / 2 > m_buffer.size()) {
-        m_buffer.resize(m_buffer.size() * 2);
+        // No more than what the file holds, as far as is known.
+        const std::size_t unread = static_cast<std::size_t>(qMax(m_size - m_bytesRead, qint64(0)));
+        m_buffer.resize(qMin(m_buffer.size() * 2, kept + unread + pieceSize / 2));
     }
-    const qint64 count = m_file.read(m_buffer.data() + kept, static_cast<qint64>(m_buffer.size() - kept));
+    const std::size_t count = readInto(m_buffer.data() + kept);
     m_position = m_buffer.data();
-    m_end = m_position + kept + (count > 0 ? count : 0);
+    m_end = m_position + kept + count;
     m_dollar = nullptr;
-    m_bytesRead += count > 0 ? count : 0;
     return count > 0;
+}
+
+/// Fills the buffer from `place` on, as far as one read does; 0 at the end of the file.
+std::size_t LineSource::readInto(char* place)
+{
+    const char* const end = m_buffer.data() + m_buffer.size();
+    const qint64 count = m_file.isOpen() ? m_file.read(place, end - place) : 0;
+    m_bytesRead += count > 0 ? count : 0;
+    return count > 0 ? static_cast<std::size_t>(count) : 0;
 }
 
 } // namespace DataManager

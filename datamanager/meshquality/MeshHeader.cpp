@@ -9,8 +9,9 @@ namespace DataManager {
 
 namespace {
 
-// A line of a file that is no text at all may be of any length.
+// A line of a file that is no text at all may be of any length, and is given whole up to the size of a head.
 constexpr std::ptrdiff_t longestLine = 4096;
+static_assert(longestLine <= static_cast<std::ptrdiff_t>(LineSource::headSize));
 
 } // namespace
 
@@ -19,6 +20,7 @@ bool MeshHeader::take(TextRange line)
     const QString text =
         QString::fromUtf8(line.begin, static_cast<int>(qMin(line.end - line.begin, longestLine))).trimmed();
     if (text.contains(QLatin1Char('$'))) {
+        m_isFormatAnnounced = m_isFormatAnnounced || text.endsWith(QLatin1String("$MeshFormat"));
         m_section = text.endsWith(QLatin1String("$MeshFormat"))      ? Section::Format
                     : text.endsWith(QLatin1String("$PhysicalNames")) ? Section::GroupNames
                                                                      : Section::Other;
@@ -43,6 +45,7 @@ void MeshHeader::takeFormat(const QString& line)
     const QStringList fields = line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     m_version = fields.value(0);
     m_fileType = fields.value(1);
+    m_isFormatBlank = fields.isEmpty();
     m_section = Section::Other;
 }
 
@@ -65,9 +68,15 @@ bool MeshHeader::isReadable() const
 QString MeshHeader::formatText() const
 {
     if (m_version.isEmpty()) {
-        return QStringLiteral("a file without $MeshFormat");
+        return m_isFormatBlank       ? QStringLiteral("a file with a blank line after $MeshFormat")
+               : m_isFormatAnnounced ? QStringLiteral("a file with nothing after $MeshFormat")
+                                     : QStringLiteral("a file without $MeshFormat");
     }
-    const QString kind = m_fileType == QLatin1String("1") ? QStringLiteral(" binary") : QStringLiteral(" ASCII");
+    const bool isAscii = m_fileType == QLatin1String("0") || m_version == QLatin1String("1");
+    const QString kind = isAscii ? QStringLiteral(" ASCII")
+                         : m_fileType == QLatin1String("1")
+                             ? QStringLiteral(" binary")
+                             : QStringLiteral(" of file type '%1'").arg(m_fileType.left(20));
     return QStringLiteral("MSH %1%2").arg(m_version.left(20), kind);
 }
 

@@ -6,8 +6,11 @@
 #include <datamanager/meshquality/private/FeatureSums.h>
 #include <datamanager/meshquality/private/FieldCursor.h>
 #include <datamanager/meshquality/private/MeshHeader.h>
+#include <datamanager/meshquality/private/SkippedLines.h>
 
 #include <QFileInfo>
+
+#include <numeric>
 
 namespace DataManager {
 
@@ -26,19 +29,35 @@ public:
     bool isOpen() const { return m_source.isOpen(); }
     bool isCancelled() const { return m_isCancelled; }
 
+    void node(const Tetrahedron::Vector& position, TextRange line)
+    {
+        MeshTables::node(position, line);
+        if (static_cast<std::size_t>(FieldCursor(line).toInt()) != nodes.size()) {
+            note(misnumberedNodes);
+        }
+    }
     void tetrahedron(const NodeNumbers& corners, TextRange line)
     {
         MeshTables::tetrahedron(corners, line);
         FieldCursor field(line);
         tags.push_back(field.toInt());
         field.next(); // type
-        field.next(); // number of tags
+        field.next();
+        noteTagCount(field);
         field.next();
         physicalTags.push_back(field.toInt());
         lines.push_back(m_source.lineNumber());
     }
-    void shortNode() { skip(m_source.lineNumber(), SkipReason::ShortNode); }
-    void shortTetrahedron() { skip(m_source.lineNumber(), SkipReason::ShortTetrahedron); }
+    void shortNode() { skippedLines.add(m_source.lineNumber(), SkipReason::ShortNode); }
+    void shortTetrahedron(TextRange line)
+    {
+        FieldCursor field(line);
+        field.next(); // type
+        if (field.next()) {
+            noteTagCount(field);
+        }
+        skippedLines.add(m_source.lineNumber(), SkipReason::ShortTetrahedron);
+    }
     bool outside(TextRange line) { return m_isHeaderReadable = header.take(line); }
     bool proceeds()
     {
@@ -53,23 +72,33 @@ public:
     {
         const std::vector<std::size_t> removed = MeshTables::removeUnconnected();
         for (const std::size_t element : removed) {
-            skip(lines[element], SkipReason::MissingNode);
+            skippedLines.add(lines[element], SkipReason::MissingNode);
         }
         removeAt(tags, removed);
         removeAt(physicalTags, removed);
         removeAt(lines, removed);
-        std::sort(skippedLines.begin(), skippedLines.end(),
-                  [](const SkippedLine& a, const SkippedLine& b) { return a.line < b.line; });
     }
 
     MeshHeader header;
     std::vector<int> tags;
     std::vector<int> physicalTags;
     std::vector<qint64> lines;
-    std::vector<SkippedLine> skippedLines;
+    SkippedLines skippedLines;
+    Places misnumberedNodes;
+    Places otherTagCounts;
 
 private:
-    void skip(qint64 line, SkipReason reason) { skippedLines.push_back({line, reason}); }
+    void note(Places& places) const
+    {
+        ++places.count;
+        places.firstLine = places.count == 1 ? m_source.lineNumber() : places.firstLine;
+    }
+    void noteTagCount(FieldCursor& field)
+    {
+        if (field.toInt() != 2) {
+            note(otherTagCounts);
+        }
+    }
 
     LineSource m_source;
     const Progress& m_progress;
@@ -97,12 +126,33 @@ std::array<double, MeshQualityReport::metricCount> inOrder(const Tetrahedron::Me
             m.radiusRatio, 0.0,         m.scaledJacobian, m.shape,       0.0};
 }
 
-QString conversionAdvice(const QString& format, const QString& path)
+QString savingCall(const QString& output, const QString& path)
 {
     QString quoted = path;
     quoted.replace(QLatin1String("'"), QLatin1String("'\\''"));
-    return QStringLiteral("%1, not MSH 2 ASCII; convert it with: gmsh -save -format msh22 -o converted.msh '%2'")
-        .arg(format, quoted);
+    return QStringLiteral("gmsh -save -format msh22 -o %1 '%2'").arg(output, quoted);
+}
+
+QString conversionAdvice(const QString& format, const QString& path)
+{
+    return format + QStringLiteral(", not MSH 2 ASCII; convert it with: ") +
+           savingCall(QStringLiteral("converted.msh"), path);
+}
+
+QString numberingWarning(const MeshQualityReport::Places& nodes, const QString& path)
+{
+    return QStringLiteral("%1 nodes are not numbered by their place in the file (first: line %2), by which elements "
+                          "take them: the measures are of other elements than meant; renumber with: ")
+               .arg(QString::number(nodes.count), QString::number(nodes.firstLine)) +
+           savingCall(QStringLiteral("renumbered.msh"), path);
+}
+
+QString tagWarning(const MeshQualityReport::Places& tetrahedra, const QString& path)
+{
+    return QStringLiteral("%1 tetrahedra have not the two tags (first: line %2) with which they are read: their "
+                          "corners are taken from the wrong columns; save a mesh without partitions with: ")
+               .arg(QString::number(tetrahedra.count), QString::number(tetrahedra.firstLine)) +
+           savingCall(QStringLiteral("two-tags.msh"), path);
 }
 
 } // namespace
@@ -113,6 +163,24 @@ QString MeshQualityReport::metricName(Metric metric)
         "Volume",      "EdgeRatio",           "AspectRatio",    "AspectGamma", "Condition",   "Jacobian",
         "RadiusRatio", "RelativeSizeSquared", "ScaledJacobian", "Shape",       "ShapeAndSize"};
     return QString::fromLatin1(names[static_cast<std::size_t>(metric)]);
+}
+
+QString MeshQualityReport::skipReasonText(SkipReason reason)
+{
+    switch (reason) {
+    case SkipReason::ShortNode:
+        return QStringLiteral("a node needs four columns");
+    case SkipReason::ShortTetrahedron:
+        return QStringLiteral("a tetrahedron needs nine columns");
+    case SkipReason::MissingNode:
+        return QStringLiteral("names a node that is not there (nodes are numbered by their place in the file)");
+    }
+    return QString();
+}
+
+qint64 MeshQualityReport::skippedLineCount() const
+{
+    return std::accumulate(m_skipCounts.begin(), m_skipCounts.end(), qint64(0));
 }
 
 bool MeshQualityReport::fail(Problem problem, const QString& text)
@@ -148,11 +216,38 @@ bool MeshQualityReport::measure(const QString& path, const Progress& progress)
         return false;
     }
     scan.removeUnconnected();
+    takeDoubts(scan, path);
     if (scan.tetrahedra.empty()) {
-        return fail(Problem::NoTetrahedra, QStringLiteral("no tetrahedra"));
+        m_problem = Problem::NoTetrahedra;
+        m_problemText = noTetrahedraText();
+        return false;
     }
     take(scan);
     return true;
+}
+
+QString MeshQualityReport::noTetrahedraText() const
+{
+    const QString text = QStringLiteral("no tetrahedra");
+    return m_skippedLines.empty()
+               ? text
+               : text + QStringLiteral(" (%1 lines skipped, first: line %2: %3)")
+                            .arg(QString::number(skippedLineCount()), QString::number(m_skippedLines.front().line),
+                                 skipReasonText(m_skippedLines.front().reason));
+}
+
+void MeshQualityReport::takeDoubts(const Scan& scan, const QString& path)
+{
+    m_skipCounts = scan.skippedLines.counts();
+    m_skippedLines = scan.skippedLines.first();
+    m_misnumberedNodes = scan.misnumberedNodes;
+    m_otherTagCounts = scan.otherTagCounts;
+    if (m_misnumberedNodes.count > 0) {
+        m_warnings.append(numberingWarning(m_misnumberedNodes, path));
+    }
+    if (m_otherTagCounts.count > 0) {
+        m_warnings.append(tagWarning(m_otherTagCounts, path));
+    }
 }
 
 void MeshQualityReport::take(Scan& scan)
@@ -162,7 +257,6 @@ void MeshQualityReport::take(Scan& scan)
     m_tags = std::move(scan.tags);
     m_physicalTags = std::move(scan.physicalTags);
     m_lines = std::move(scan.lines);
-    m_skippedLines = std::move(scan.skippedLines);
     m_groupNames = scan.header.groupNames();
 }
 

@@ -6,7 +6,7 @@
 #include <datamanager/datamanager_export.h>
 
 #include <QMap>
-#include <QString>
+#include <QStringList>
 
 #include <array>
 #include <functional>
@@ -66,17 +66,32 @@ public:
     {
         /// A node line with fewer than four columns; the nodes after it move up by one.
         ShortNode,
-        /// A tetrahedron with fewer than nine columns.
+        /// A tetrahedron with fewer than nine columns. A line that ends with its type is no tetrahedron's: the line end
+        /// belongs to its last column, which then is not exactly "4".
         ShortTetrahedron,
         /// A tetrahedron naming a node that the file does not hold.
         MissingNode
     };
+
+    static constexpr int skipReasonCount = 3;
+    /// The reason for people, in English.
+    static QString skipReasonText(SkipReason reason);
 
     struct SkippedLine
     {
         /// From 1.
         qint64 line;
         SkipReason reason;
+    };
+    /// How many skipped lines are kept with their places.
+    static constexpr int skippedLinesKept = 1000;
+
+    /// Lines of one kind.
+    struct Places
+    {
+        qint64 count = 0;
+        /// From 1; 0 without lines.
+        qint64 firstLine = 0;
     };
 
     /// How the finite values of a metric are spread. Percentiles lie between the two nearest values in proportion; the
@@ -137,10 +152,23 @@ public:
     /// Tetrahedra with a negative, and with a zero volume.
     int invertedCount() const { return m_invertedCount; }
     int flatCount() const { return m_flatCount; }
-    /// Tetrahedra that name a node twice. They are flat, too.
+    /// Tetrahedra that name a node twice. They hold no volume, but not all are counted as flat: where the products of
+    /// their edges are rounded, what is left of the volume may have either sign.
     int duplicateNodeCount() const { return m_duplicateNodeCount; }
-    /// The lines that were passed over, in file order.
+    /// How many lines were passed over, in all and for one reason. Known also when there are no tetrahedra.
+    qint64 skippedLineCount() const;
+    qint64 skippedLineCount(SkipReason reason) const { return m_skipCounts[static_cast<std::size_t>(reason)]; }
+    /// The first skippedLinesKept of them, in file order.
     const std::vector<SkippedLine>& skippedLines() const { return m_skippedLines; }
+
+    /// Node lines whose number is not their place among the node lines read, from 1. The corners of elements are found
+    /// by place all the same, as MeshQualityPredict finds them, so the measures may be those of other elements.
+    Places misnumberedNodes() const { return m_misnumberedNodes; }
+    /// Tetrahedra whose third column, the number of tags, is not 2, skipped ones included. They are read as if it were.
+    Places otherTagCounts() const { return m_otherTagCounts; }
+    /// What makes the measures doubtful, and what to do about it, for people, in English; nothing as a rule. Known also
+    /// when there are no tetrahedra.
+    QStringList warnings() const { return m_warnings; }
 
     /// The means over all elements, as the quality model takes them: bit for bit those of MeshQualityPredict::getInput.
     const std::array<float, metricCount>& features() const { return m_features; }
@@ -173,6 +201,8 @@ private:
     class Scan;
 
     bool fail(Problem problem, const QString& text);
+    QString noTetrahedraText() const;
+    void takeDoubts(const Scan& scan, const QString& path);
     void take(Scan& scan);
     void takeGeometry(Scan& scan);
     void measureElements(const Scan& scan);
@@ -183,7 +213,11 @@ private:
     int m_invertedCount = 0;
     int m_flatCount = 0;
     int m_duplicateNodeCount = 0;
+    std::array<qint64, skipReasonCount> m_skipCounts{};
     std::vector<SkippedLine> m_skippedLines;
+    Places m_misnumberedNodes;
+    Places m_otherTagCounts;
+    QStringList m_warnings;
     std::array<float, metricCount> m_features{};
     std::array<std::vector<double>, metricCount> m_values;
     std::vector<int> m_tags;

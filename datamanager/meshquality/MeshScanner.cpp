@@ -13,13 +13,14 @@ bool MeshSections::takeMarker(TextRange line)
 {
     const std::string_view text(line.begin, static_cast<std::size_t>(line.end - line.begin));
     const auto holds = [text](std::string_view marker) { return text.find(marker) != std::string_view::npos; };
-    if (holds("$Nodes")) {
+    const auto& [nodes, endOfNodes, elements, endOfElements] = sectionMarkers;
+    if (holds(nodes)) {
         m_inNodes = true;
-    } else if (holds("$EndNodes")) {
+    } else if (holds(endOfNodes)) {
         m_inNodes = false;
-    } else if (holds("$Elements")) {
+    } else if (holds(elements)) {
         m_inElements = true;
-    } else if (holds("$EndElements")) {
+    } else if (holds(endOfElements)) {
         m_inElements = false;
     } else {
         return false;

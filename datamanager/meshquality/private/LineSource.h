@@ -3,13 +3,19 @@
 
 #pragma once
 
+#include <datamanager/meshquality/private/LineBuffer.h>
+
 #include <QFile>
 #include <QString>
 
+#include <array>
 #include <cstring>
-#include <vector>
+#include <string_view>
 
 namespace DataManager {
+
+/// What begins and ends the nodes and the elements of a mesh file.
+constexpr std::array<std::string_view, 4> sectionMarkers{"$Nodes", "$EndNodes", "$Elements", "$EndElements"};
 
 /// A part of a text, valid until the source that gave it moves on.
 struct TextRange
@@ -18,7 +24,8 @@ struct TextRange
     const char* end = nullptr;
 };
 
-/// The lines of a regular file, read in large pieces through one buffer, which grows only when a single line is longer.
+/// The lines of a regular file, read in large pieces through one buffer, which grows only when a single line that is
+/// kept whole is longer. Of other long lines their first bytes are kept, followed by the section markers of their rest.
 /// What cannot be opened, and what is no regular file, has no lines. The file is read and not mapped, because a file
 /// that the mesher cuts short meanwhile would end the process through its mapping.
 class LineSource
@@ -32,6 +39,11 @@ public:
     qint64 size() const { return m_size; }
     /// How many bytes have been read.
     qint64 bytesRead() const { return m_bytesRead; }
+
+    /// How many bytes of every line are kept, at least.
+    static constexpr std::size_t headSize = 8192;
+    /// Whether the lines that follow are kept whole, however long they are. At first they are not.
+    void keepLongLines(bool keeps) { m_keepsLongLines = keeps; }
 
     /// Goes to the next line; false at the end.
     bool next()
@@ -69,12 +81,15 @@ private:
     }
     bool nextAcrossPieces();
     bool readPiece();
+    void acceptAbridged();
+    std::size_t readInto(char* place);
 
     QFile m_file;
     qint64 m_size = 0;
     qint64 m_bytesRead = 0;
     qint64 m_lineNumber = 0;
-    std::vector<char> m_buffer;
+    bool m_keepsLongLines = false;
+    LineBuffer m_buffer;
     const char* m_position = nullptr;
     const char* m_end = nullptr;
     const char* m_dollar = nullptr;

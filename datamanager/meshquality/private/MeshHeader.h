@@ -37,6 +37,8 @@ private:
     void takeGroupName(const QString& line);
 
     Section m_section = Section::Other;
+    bool m_isFormatAnnounced = false;
+    bool m_isFormatBlank = false;
     QString m_version;
     QString m_fileType;
     QMap<int, QString> m_groupNames;

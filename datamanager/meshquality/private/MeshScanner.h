@@ -46,11 +46,12 @@ ElementLine readElementLine(TextRange line, NodeNumbers& corners);
 /// A sink derives from this, hides what it wants to know, and is passed by its own type: nothing here is virtual.
 struct MeshSink
 {
-    void node(const Tetrahedron::Vector&) {}
+    void node(const Tetrahedron::Vector&, TextRange) {}
     void tetrahedron(const NodeNumbers&, TextRange) {}
-    /// A node line with fewer than four fields, or a tetrahedron's with fewer than nine. It is passed over.
+    /// A node line with fewer than four fields, or a tetrahedron's with fewer than nine. It is passed over. An element
+    /// line that ends with its type is of no type that is known: the line terminator belongs to the last field.
     void shortNode() {}
-    void shortTetrahedron() {}
+    void shortTetrahedron(TextRange) {}
     /// A line outside of both sections; false stops the scan.
     bool outside(TextRange) { return true; }
     /// Asked before every line; false stops the scan.
@@ -62,7 +63,7 @@ void scanNodeLine(TextRange line, Sink& sink)
 {
     Tetrahedron::Vector node;
     if (readNodeLine(line, node)) {
-        sink.node(node);
+        sink.node(node, line);
     } else {
         sink.shortNode();
     }
@@ -77,7 +78,7 @@ void scanElementLine(TextRange line, Sink& sink)
         sink.tetrahedron(corners, line);
         break;
     case ElementLine::Short:
-        sink.shortTetrahedron();
+        sink.shortTetrahedron(line);
         break;
     case ElementLine::OtherType:
         break;
@@ -95,6 +96,7 @@ void scanMesh(LineSource& lines, Sink& sink)
     while (sink.proceeds() && lines.next()) {
         const TextRange line = lines.line();
         if (lines.holdsDollar() && sections.takeMarker(line)) {
+            lines.keepLongLines(sections.inNodes() || sections.inElements());
             continue;
         }
         if (sections.inNodes()) {

@@ -20,7 +20,7 @@ public:
     std::vector<Tetrahedron::Vector> nodes;
     std::vector<NodeNumbers> tetrahedra;
 
-    void node(const Tetrahedron::Vector& position) { nodes.push_back(position); }
+    void node(const Tetrahedron::Vector& position, TextRange) { nodes.push_back(position); }
     void tetrahedron(const NodeNumbers& corners, TextRange)
     {
         if (!areNodes(corners)) {
