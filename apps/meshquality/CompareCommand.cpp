@@ -113,18 +113,22 @@ QString comparison(const ScoredMesh& a, const ScoredMesh& b)
     return text + line(QStringLiteral("score"), before, after, word(rating(before, after, false)));
 }
 
-ExitCode measure(const QString& file, ModelScore& model, const QString& modelFile, ScoredMesh& mesh)
+ExitCode measure(const QString& file, ScoredMesh& mesh)
 {
     mesh.file = file;
-    const ExitCode exitCode = measureMesh(mesh);
-    if (exitCode != Success) {
-        return exitCode;
-    }
-    if (!model.score(mesh.report.features(), mesh.score)) {
+    return measureMesh(mesh);
+}
+
+/// Meshes without a score are compared all the same.
+ExitCode score(const QString& modelFile, ScoredMesh& a, ScoredMesh& b)
+{
+    ModelScore model;
+    a.isScored = model.load(modelFile) && model.score(a.report.features(), a.score);
+    b.isScored = a.isScored && model.score(b.report.features(), b.score);
+    if (!b.isScored) {
         Console::printError(modelFile, model.errorText());
-        return ModelTrouble;
     }
-    return Success;
+    return b.isScored ? Success : ModelTrouble;
 }
 
 } // namespace
@@ -138,20 +142,16 @@ ExitCode runCompare(const QStringList& arguments)
         Console::printUsageError(isParsed ? QStringLiteral("compare needs two meshes") : parser.errorText());
         return UsageError;
     }
-    const QString modelFile = parser.value(QStringLiteral("model"));
-    ModelScore model;
-    if (!model.load(modelFile)) {
-        Console::printError(modelFile, model.errorText());
-        return ModelTrouble;
-    }
     ScoredMesh a;
     ScoredMesh b;
-    const ExitCode ofA = measure(parser.positionalArguments().at(0), model, modelFile, a);
-    const ExitCode ofB = measure(parser.positionalArguments().at(1), model, modelFile, b);
-    if (qMax(ofA, ofB) == Success) {
-        Console::print(comparison(a, b));
+    const ExitCode ofA = measure(parser.positionalArguments().at(0), a);
+    const ExitCode ofB = measure(parser.positionalArguments().at(1), b);
+    if (qMax(ofA, ofB) != Success) {
+        return qMax(ofA, ofB);
     }
-    return qMax(ofA, ofB);
+    const ExitCode exitCode = score(parser.value(QStringLiteral("model")), a, b);
+    Console::print(comparison(a, b));
+    return exitCode;
 }
 
 } // namespace MeshQuality

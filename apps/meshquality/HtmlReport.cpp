@@ -9,6 +9,7 @@
 #include <meshquality/ScoredMesh.h>
 #include <meshquality/SvgHistogram.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace MeshQuality {
@@ -49,13 +50,20 @@ QString scrolling(const Html::Table& table)
     return QStringLiteral("<div class=\"scroll\">") + table.text() + QStringLiteral("</div>\n");
 }
 
+QString noScoreText(const ScoredMesh& mesh)
+{
+    const auto& means = mesh.report.features();
+    const bool areFinite = std::all_of(means.begin(), means.end(), [](float mean) { return std::isfinite(mean); });
+    return !mesh.isScored ? QStringLiteral("There is no score, because the model cannot be used.")
+           : areFinite    ? QStringLiteral("There is no score, because the model gives no number.")
+                          : QStringLiteral("There is no score, because a mean is no finite number.");
+}
+
 QString scoreText(const ScoredMesh& mesh)
 {
     const double score = static_cast<double>(mesh.score);
     return QStringLiteral("<p><span class=\"score\">%1</span> score (0 worst, 1 best)</p>\n").arg(Html::number(score)) +
-           (std::isnan(score) ? QStringLiteral("<p class=\"warning\">There is no score, because a mean is no finite "
-                                               "number.</p>\n")
-                              : QString());
+           (std::isnan(score) ? QStringLiteral("<p class=\"warning\">%1</p>\n").arg(noScoreText(mesh)) : QString());
 }
 
 QString conversion(const ScoredMesh& mesh)
@@ -76,10 +84,19 @@ QString counts(const MeshQualityReport& report)
                                           .arg(report.flatCount()));
     if (!report.skippedLines().empty()) {
         text += QStringLiteral("<p class=\"warning\">%1 lines skipped, the first is line %2</p>")
-                    .arg(report.skippedLines().size())
+                    .arg(report.skippedLineCount())
                     .arg(report.skippedLines().front().line);
     }
     return text + QLatin1Char('\n');
+}
+
+QString warnings(const ScoredMesh& mesh)
+{
+    QString text;
+    for (const QString& warning : mesh.report.warnings(mesh.file)) {
+        text += Html::element("p", QStringLiteral("Warning: ") + warning) + QLatin1Char('\n');
+    }
+    return text;
 }
 
 const QStringList spreadHead{QStringLiteral("minimum"), QStringLiteral("1 %"),  QStringLiteral("5 %"),
@@ -179,8 +196,8 @@ void HtmlReport::write(const ScoredMesh& mesh)
 {
     if (m_file.isWritable()) {
         const QString text = QStringLiteral("<section>\n") + Html::element("h2", mesh.file) + QLatin1Char('\n') +
-                             scoreText(mesh) + conversion(mesh) + counts(mesh.report) + features(mesh.report) +
-                             histograms(mesh.report) + worst(mesh.report, m_options) +
+                             scoreText(mesh) + conversion(mesh) + warnings(mesh) + counts(mesh.report) +
+                             features(mesh.report) + histograms(mesh.report) + worst(mesh.report, m_options) +
                              regions(mesh.report, m_options.worstBy) + QStringLiteral("</section>\n");
         m_file.write(text.toUtf8());
     }

@@ -27,8 +27,9 @@ void writeCounts(const MeshQualityReport& report, JsonWriter& json)
 }
 
 /// What came after the first edition of the format; programs may count on the order of what is before.
-void writeDoubts(const MeshQualityReport& report, JsonWriter& json)
+void writeDoubts(const ScoredMesh& mesh, JsonWriter& json)
 {
+    const MeshQualityReport& report = mesh.report;
     const std::pair<const char*, qint64> counts[] = {{"duplicateNodes", report.duplicateNodeCount()},
                                                      {"misnumberedNodes", report.misnumberedNodes().count},
                                                      {"otherTagCounts", report.otherTagCounts().count}};
@@ -38,7 +39,7 @@ void writeDoubts(const MeshQualityReport& report, JsonWriter& json)
     }
     json.key(QStringLiteral("warnings"));
     json.beginArray();
-    for (const QString& warning : report.warnings()) {
+    for (const QString& warning : report.warnings(mesh.file)) {
         json.value(warning);
     }
     json.endArray();
@@ -178,7 +179,7 @@ void writeJson(const ScoredMesh& mesh, const ReportOptions& options, JsonWriter&
     writeMetrics(summaries(mesh.report), json);
     writeRegions(mesh.report, json);
     writeWorst(mesh.report, options, json);
-    writeDoubts(mesh.report, json);
+    writeDoubts(mesh, json);
     json.endObject();
 }
 

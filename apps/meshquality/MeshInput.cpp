@@ -18,13 +18,22 @@ using DataManager::MeshQualityReport;
 
 namespace {
 
-bool measure(ScoredMesh& mesh, const QString& path)
+bool measureWithProgress(ScoredMesh& mesh, const QString& path)
 {
     ProgressLine progress(mesh.file);
     return mesh.report.measure(path, [&progress](qint64 read, qint64 size) {
         progress.show(read, size);
         return true;
     });
+}
+
+bool measure(ScoredMesh& mesh, const QString& path)
+{
+    const bool isMeasured = measureWithProgress(mesh, path);
+    for (const QString& warning : mesh.report.warnings(mesh.file)) {
+        Console::printError(mesh.file, QStringLiteral("warning: ") + warning);
+    }
+    return isMeasured;
 }
 
 /// Converts into the directory; an empty path, with the reason in `problem`, when that fails.

@@ -30,8 +30,9 @@ public:
 
     ExitCode run()
     {
-        if (!m_model.load(m_options.model)) {
-            return modelTrouble();
+        m_isModelLoaded = m_model.load(m_options.model);
+        if (!m_isModelLoaded) {
+            m_exitCode = modelTrouble();
         }
         m_json.beginArray();
         for (const QString& file : m_options.meshes) {
@@ -47,20 +48,26 @@ private:
         ScoredMesh mesh;
         mesh.file = file;
         QString problem;
-        const ExitCode exitCode = measureMesh(mesh, problem);
+        ExitCode exitCode = measureMesh(mesh, problem);
         if (exitCode != Success) {
             return tellProblem(file, problem, exitCode);
         }
-        if (!m_model.score(mesh.report.features(), mesh.score)) {
-            return modelTrouble();
-        }
+        exitCode = score(mesh);
         if (!m_options.jsonFile.isEmpty()) {
             writeJson(mesh, m_options, m_json);
         }
         print(mesh);
         m_csv.write(mesh);
         m_html.write(mesh);
-        return m_options.vtuFile.isEmpty() || writeVtu(mesh, m_options.vtuFile) ? Success : UsageError;
+        const bool isVtuWritten = m_options.vtuFile.isEmpty() || writeVtu(mesh, m_options.vtuFile);
+        return isVtuWritten ? exitCode : qMax(exitCode, UsageError);
+    }
+
+    /// A mesh without a score is reported all the same.
+    ExitCode score(ScoredMesh& mesh)
+    {
+        mesh.isScored = m_isModelLoaded && m_model.score(mesh.report.features(), mesh.score);
+        return m_isModelLoaded && !mesh.isScored ? modelTrouble() : Success;
     }
 
     ExitCode tellProblem(const QString& file, const QString& problem, ExitCode exitCode)
@@ -113,6 +120,7 @@ private:
 
     const ReportOptions& m_options;
     ModelScore m_model;
+    bool m_isModelLoaded = false;
     JsonWriter m_json;
     CsvReport m_csv;
     HtmlReport m_html;

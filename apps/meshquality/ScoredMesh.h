@@ -5,9 +5,11 @@
 
 #include <datamanager/meshquality/MeshQualityReport.h>
 
+#include <limits>
+
 namespace MeshQuality {
 
-/// A mesh that has been measured and scored.
+/// A mesh that has been measured, and scored if the model could be used.
 struct ScoredMesh
 {
     QString file;
@@ -15,7 +17,9 @@ struct ScoredMesh
     /// the conversion. Otherwise empty.
     QString convertedFrom;
     DataManager::MeshQualityReport report;
-    float score = 0.0F;
+    bool isScored = false;
+    /// NaN also when there is none.
+    float score = std::numeric_limits<float>::quiet_NaN();
 };
 
 } // namespace MeshQuality

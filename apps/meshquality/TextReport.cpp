@@ -34,36 +34,26 @@ QString conversion(const ScoredMesh& mesh)
 
 QString counts(const MeshQualityReport& report)
 {
-    return QStringLiteral("  %1 nodes, %2 tetrahedra (%3 inverted, %4 flat)\n")
-        .arg(report.nodeCount())
-        .arg(report.elementCount())
-        .arg(report.invertedCount())
-        .arg(report.flatCount());
-}
-
-QString reasonText(MeshQualityReport::SkipReason reason)
-{
-    switch (reason) {
-    case MeshQualityReport::SkipReason::ShortNode:
-        return QStringLiteral("a node needs four columns");
-    case MeshQualityReport::SkipReason::ShortTetrahedron:
-        return QStringLiteral("a tetrahedron needs nine columns");
-    case MeshQualityReport::SkipReason::MissingNode:
-        return QStringLiteral("names a node that is not there (nodes are numbered by their place in the file)");
-    }
-    return QString();
+    const QString text = QStringLiteral("  %1 nodes, %2 tetrahedra (%3 inverted, %4 flat)\n")
+                             .arg(report.nodeCount())
+                             .arg(report.elementCount())
+                             .arg(report.invertedCount())
+                             .arg(report.flatCount());
+    const int repeating = report.duplicateNodeCount();
+    return repeating == 0 ? text : text + QStringLiteral("  %1 tetrahedra name a node twice\n").arg(repeating);
 }
 
 QString skippedLines(const MeshQualityReport& report)
 {
-    const std::size_t count = report.skippedLines().size();
+    const qint64 count = report.skippedLineCount();
     if (count == 0) {
         return QString();
     }
     QString text = QStringLiteral("  %1 lines skipped:\n").arg(count);
-    for (std::size_t i = 0; i < count && i < placesShown; ++i) {
+    for (std::size_t i = 0; i < report.skippedLines().size() && i < placesShown; ++i) {
         const MeshQualityReport::SkippedLine& line = report.skippedLines()[i];
-        text += QStringLiteral("    line %1: %2\n").arg(line.line).arg(reasonText(line.reason));
+        text += QStringLiteral("    line %1: %2\n")
+                    .arg(QString::number(line.line), MeshQualityReport::skipReasonText(line.reason));
     }
     if (count > placesShown) {
         text += QStringLiteral("    and %1 more\n").arg(count - placesShown);
@@ -135,14 +125,58 @@ QString elementsWithoutMetrics(const MeshQualityReport& report)
     return text;
 }
 
+/// The metrics whose mean is no finite number: in double precision either, and only as the model takes it.
+struct BadMeans
+{
+    QStringList ofElements;
+    QStringList overflowing;
+    QStringList narrowed;
+};
+
+BadMeans badMeans(const MeshQualityReport& report)
+{
+    BadMeans bad;
+    for (int i = 0; i < MeshQualityReport::metricCount; ++i) {
+        const Metric metric = static_cast<Metric>(i);
+        if (!std::isfinite(report.features()[static_cast<std::size_t>(i)])) {
+            const MeshQualityReport::Summary summary = report.summary(metric);
+            QStringList& kind = summary.nonFinite > 0         ? bad.ofElements
+                                : std::isfinite(summary.mean) ? bad.narrowed
+                                                              : bad.overflowing;
+            kind.append(MeshQualityReport::metricName(metric));
+        }
+    }
+    return bad;
+}
+
+/// Why the score says nothing, whatever it is.
+QString spoiltMeans(const MeshQualityReport& report)
+{
+    const BadMeans bad = badMeans(report);
+    const auto line = [](const QStringList& metrics, const QString& what) {
+        return metrics.isEmpty()
+                   ? QString()
+                   : QStringLiteral("  no finite mean of %1: %2\n").arg(metrics.join(QStringLiteral(", ")), what);
+    };
+    QString text = line(bad.narrowed, QStringLiteral("every element has a value and so has the mean, but it is too "
+                                                     "large for the single precision in which the model takes it"));
+    text += line(bad.overflowing, QStringLiteral("every element has a value, but their sum is out of range"));
+    text += line(bad.ofElements, QStringLiteral("these elements have no finite value"));
+    return bad.ofElements.isEmpty() ? text : text + elementsWithoutMetrics(report);
+}
+
 QString score(const ScoredMesh& mesh)
 {
-    if (!std::isnan(mesh.score)) {
-        return QStringLiteral("  score %1 (0 worst, 1 best)\n").arg(number(static_cast<double>(mesh.score)));
+    const QString spoilt = spoiltMeans(mesh.report);
+    if (!mesh.isScored) {
+        return QStringLiteral("  no score: the model cannot be used\n") + spoilt;
     }
-    return QStringLiteral(
-               "  score nan: there is none, because a mean is no finite number. These elements cause it:\n") +
-           elementsWithoutMetrics(mesh.report);
+    const QString text = QStringLiteral("  score %1 ").arg(number(static_cast<double>(mesh.score)));
+    if (!spoilt.isEmpty()) {
+        return text + QStringLiteral("means nothing, because a mean is no finite number:\n") + spoilt;
+    }
+    return text + (std::isnan(mesh.score) ? QStringLiteral("(the model gives no number, though all means are finite)\n")
+                                          : QStringLiteral("(0 worst, 1 best)\n"));
 }
 
 } // namespace

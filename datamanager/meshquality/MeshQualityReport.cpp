@@ -216,7 +216,7 @@ bool MeshQualityReport::measure(const QString& path, const Progress& progress)
         return false;
     }
     scan.removeUnconnected();
-    takeDoubts(scan, path);
+    takeDoubts(scan);
     if (scan.tetrahedra.empty()) {
         m_problem = Problem::NoTetrahedra;
         m_problemText = noTetrahedraText();
@@ -236,18 +236,24 @@ QString MeshQualityReport::noTetrahedraText() const
                                  skipReasonText(m_skippedLines.front().reason));
 }
 
-void MeshQualityReport::takeDoubts(const Scan& scan, const QString& path)
+void MeshQualityReport::takeDoubts(const Scan& scan)
 {
     m_skipCounts = scan.skippedLines.counts();
     m_skippedLines = scan.skippedLines.first();
     m_misnumberedNodes = scan.misnumberedNodes;
     m_otherTagCounts = scan.otherTagCounts;
+}
+
+QStringList MeshQualityReport::warnings(const QString& path) const
+{
+    QStringList texts;
     if (m_misnumberedNodes.count > 0) {
-        m_warnings.append(numberingWarning(m_misnumberedNodes, path));
+        texts.append(numberingWarning(m_misnumberedNodes, path));
     }
     if (m_otherTagCounts.count > 0) {
-        m_warnings.append(tagWarning(m_otherTagCounts, path));
+        texts.append(tagWarning(m_otherTagCounts, path));
     }
+    return texts;
 }
 
 void MeshQualityReport::take(Scan& scan)

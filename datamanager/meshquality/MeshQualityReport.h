@@ -166,9 +166,9 @@ public:
     Places misnumberedNodes() const { return m_misnumberedNodes; }
     /// Tetrahedra whose third column, the number of tags, is not 2, skipped ones included. They are read as if it were.
     Places otherTagCounts() const { return m_otherTagCounts; }
-    /// What makes the measures doubtful, and what to do about it, for people, in English; nothing as a rule. Known also
-    /// when there are no tetrahedra.
-    QStringList warnings() const { return m_warnings; }
+    /// What makes the measures of the mesh at `path` doubtful, and what to do about it, for people, in English; nothing
+    /// as a rule. Known also when there are no tetrahedra.
+    QStringList warnings(const QString& path) const;
 
     /// The means over all elements, as the quality model takes them: bit for bit those of MeshQualityPredict::getInput.
     const std::array<float, metricCount>& features() const { return m_features; }
@@ -202,7 +202,7 @@ private:
 
     bool fail(Problem problem, const QString& text);
     QString noTetrahedraText() const;
-    void takeDoubts(const Scan& scan, const QString& path);
+    void takeDoubts(const Scan& scan);
     void take(Scan& scan);
     void takeGeometry(Scan& scan);
     void measureElements(const Scan& scan);
@@ -217,7 +217,6 @@ private:
     std::vector<SkippedLine> m_skippedLines;
     Places m_misnumberedNodes;
     Places m_otherTagCounts;
-    QStringList m_warnings;
     std::array<float, metricCount> m_features{};
     std::array<std::vector<double>, metricCount> m_values;
     std::vector<int> m_tags;
