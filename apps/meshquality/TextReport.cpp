@@ -171,12 +171,14 @@ QString score(const ScoredMesh& mesh)
     if (!mesh.isScored) {
         return QStringLiteral("  no score: the model cannot be used\n") + spoilt;
     }
-    const QString text = QStringLiteral("  score %1 ").arg(number(static_cast<double>(mesh.score)));
+    const bool isNumber = !std::isnan(mesh.score);
+    const QString text = QStringLiteral("  score ") + number(static_cast<double>(mesh.score));
     if (!spoilt.isEmpty()) {
-        return text + QStringLiteral("means nothing, because a mean is no finite number:\n") + spoilt;
+        const QString verdict = isNumber ? QStringLiteral(" means nothing") : QStringLiteral(": there is none");
+        return text + verdict + QStringLiteral(", because a mean is no finite number:\n") + spoilt;
     }
-    return text + (std::isnan(mesh.score) ? QStringLiteral("(the model gives no number, though all means are finite)\n")
-                                          : QStringLiteral("(0 worst, 1 best)\n"));
+    return text + (isNumber ? QStringLiteral(" (0 worst, 1 best)\n")
+                            : QStringLiteral(": there is none, because the model gives no number for these means\n"));
 }
 
 } // namespace

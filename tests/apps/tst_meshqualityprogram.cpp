@@ -16,6 +16,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <limits>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 using Metric = DataManager::MeshQualityReport::Metric;
@@ -34,6 +36,11 @@ private Q_SLOTS:
     void refusesWrongCalls();
     void reportsForPeople();
     void explainsMissingScores();
+    void tellsOfSpoiltScores_data();
+    void tellsOfSpoiltScores();
+    void tellsOfRepeatedNodes();
+    void warnsOfLayout();
+    void readsLongLinesInLittleMemory();
     void tellsSkippedLines();
     void reportsForPrograms();
     void writesJsonIntoFile();
@@ -159,10 +166,11 @@ void MeshQualityProgramTest::listsOptionsAndExitCodes()
         QVERIFY2(!errors.contains("Unknown option"), errors.constData());
         QCOMPARE(errors.contains("Missing value"), !option.captured(2).isEmpty());
     }
-    for (const char* name : {"json", "csv", "worst", "by", "histogram", "by-region", "model"}) {
+    for (const char* name : {"json", "jsonl", "csv", "vtu", "html", "worst", "by", "histogram", "by-region", "model"}) {
         QVERIFY2(options.contains(QString::fromLatin1(name)), name);
     }
-    for (const char* call : {"check --profile FILE MESH...", "compare [--model FILE] A B", "predict"}) {
+    for (const char* call :
+         {"check [--profile FILE] MESH...", "check --print-profile", "compare [--model FILE] A B", "predict"}) {
         QVERIFY2(help.contains(QStringLiteral("  meshquality ") + QString::fromLatin1(call)), call);
     }
     QVERIFY(help.simplified().endsWith(
@@ -266,6 +274,123 @@ void MeshQualityProgramTest::explainsMissingScores()
     QVERIFY(run.output.contains("element 80 (line 16): inverted\n"));
     QVERIFY(run.output.contains("and 1 more\n"));
     QVERIFY(!run.output.contains("element 70"));
+}
+
+void MeshQualityProgramTest::tellsOfSpoiltScores_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QByteArray>("model");
+    QTest::addColumn<QByteArray>("expected");
+    const QByteArray regular = MeshFiles::oneTetrahedron(MeshFiles::regular());
+    // The apex so close to the base that ratios leave the range of single precision, or their sum that of double.
+    const auto low = [](const QByteArray& height, int count) {
+        QByteArray content = MeshFiles::mesh({"1 0 0 0", "2 1 0 0", "3 0 1 0", "4 0.3 0.3 " + height},
+                                             {"1 4 2 0 1 1 2 3 4", "2 4 2 0 1 1 2 3 4"});
+        return count == 2 ? content : content.replace("2 4 2 0 1 1 2 3 4\n", "");
+    };
+    const QByteArray flat = MeshFiles::mesh({"1 0 0 0", "2 1 0 0", "3 0 1 0", "4 1 1 0"}, {"7 4 2 0 1 1 2 3 4"});
+    const QByteArray meaningless = "means nothing, because a mean is no finite number:\n";
+    const QByteArray ofFlat = "  no finite mean of AspectRatio, AspectGamma, Condition, RadiusRatio, "
+                              "RelativeSizeSquared, ShapeAndSize: these elements have no finite value\n"
+                              "    element 7 (line 13): flat\n";
+    QTest::newRow("good") << regular << QByteArray("above-one") << QByteArray("  score 1 (0 worst, 1 best)\n");
+    QTest::newRow("the model gives no number")
+        << regular << QByteArray("not-a-number")
+        << QByteArray("  score nan: there is none, because the model gives no number for these means\n");
+    QTest::newRow("only flat, yet a score") << flat << QByteArray("above-one") << "  score 1 " + meaningless + ofFlat;
+    QTest::newRow("only flat, no score") << flat << QByteArray("not-a-number")
+                                         << "  score nan: there is none, because a mean is no finite number:\n" +
+                                                ofFlat;
+    QTest::newRow("narrowed") << low("1e-42", 1) << QByteArray("above-one")
+                              << "  score 1 " + meaningless +
+                                     "  no finite mean of AspectRatio, AspectGamma, Condition, RadiusRatio: every "
+                                     "element has a value and so has the mean, but it is too large for the single "
+                                     "precision in which the model takes it\n";
+    QTest::newRow("sum out of range") << low("2.236e-155", 2) << QByteArray("above-one")
+                                      << "  score 1 " + meaningless +
+                                             "  no finite mean of AspectRatio, AspectGamma, Condition: every element "
+                                             "has a value and so has the mean, but it is too large for the single "
+                                             "precision in which the model takes it\n"
+                                             "  no finite mean of RadiusRatio: every element has a value, but their "
+                                             "sum is out of range\n";
+}
+
+void MeshQualityProgramTest::tellsOfSpoiltScores()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QByteArray, model);
+    QFETCH(QByteArray, expected);
+    const ProgramRun run = runMeshQuality(
+        report + QStringList{QStringLiteral("--model"), this->model(model.constData()), file("spoilt.msh", content)});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.errors, QByteArray());
+    const QByteArray end = run.output.mid(run.output.indexOf("  score "));
+    QCOMPARE(end, expected);
+}
+
+void MeshQualityProgramTest::tellsOfRepeatedNodes()
+{
+    const QString mesh = file("repeated.msh", MeshFiles::mesh({"1 0 0 0", "2 1 0 0", "3 0 1 0", "4 0 0 1"},
+                                                              {"1 4 2 0 1 1 2 3 4", "2 4 2 0 1 1 2 3 3"}));
+    const ProgramRun run = runMeshQuality(report + QStringList{mesh});
+    QVERIFY(run.output.contains("  4 nodes, 2 tetrahedra (0 inverted, 1 flat)\n  1 tetrahedra name a node twice\n"));
+    QVERIFY(!runMeshQuality(report + QStringList{slivers}).output.contains("twice"));
+    const ProgramRun json = runMeshQuality(report + QStringList{QStringLiteral("--json"), QStringLiteral("-"), mesh});
+    QCOMPARE(onlyObject(json.output).value(QStringLiteral("duplicateNodes")).toInt(), 1);
+    QVERIFY(json.output.indexOf("\"duplicateNodes\"") > json.output.indexOf("\"worst\""));
+}
+
+void MeshQualityProgramTest::warnsOfLayout()
+{
+    const QString mesh = file("renumbered.msh", MeshFiles::mesh({"1 0 0 0", "3 1 0 0", "2 0 1 0", "4 0 0 1"},
+                                                                {"1 4 2 0 1 1 2 3 4", "2 4 3 0 1 1 2 3 4"}));
+    const QStringList warnings = measured(mesh).warnings();
+    QCOMPARE(warnings.size(), 2);
+    const QByteArray start = "meshquality: " + mesh.toUtf8() + ": warning: ";
+    const QByteArray expected = start + warnings.at(0).toUtf8() + '\n' + start + warnings.at(1).toUtf8() + '\n';
+    const QString profile = file("profile.json", R"({"thresholds": [{"metric": "EdgeRatio", "maximum": 3}]})");
+    for (const QStringList& call : {report, report + QStringList{QStringLiteral("--json"), QStringLiteral("-")},
+                                    QStringList{QStringLiteral("check"), QStringLiteral("--profile"), profile},
+                                    QStringList{QStringLiteral("compare"), slivers}}) {
+        const ProgramRun run = runMeshQuality(call + QStringList{mesh});
+        QCOMPARE(run.errors, expected);
+        QCOMPARE(run.exitCode, 0);
+    }
+    const QJsonObject object =
+        onlyObject(runMeshQuality(report + QStringList{QStringLiteral("--json"), QStringLiteral("-"), mesh}).output);
+    QCOMPARE(object.value(QStringLiteral("misnumberedNodes")).toInt(), 2);
+    QCOMPARE(object.value(QStringLiteral("otherTagCounts")).toInt(), 1);
+    QCOMPARE(object.value(QStringLiteral("warnings")).toArray().size(), 2);
+}
+
+// One line of 400 MB, nearly all of it a hole in the file. Outside of the sections it is not kept; in the nodes it is,
+// but once.
+void MeshQualityProgramTest::readsLongLinesInLittleMemory()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    QSKIP("the sanitizer's own memory counts, too");
+#endif
+    constexpr qint64 lineSize = 400 << 20;
+    const QByteArray good = MeshFiles::oneTetrahedron(MeshFiles::regular());
+    const QString mesh = path("long.msh");
+    const auto peakAfterReport = [&](const QByteArray& before, const QByteArray& after) {
+        MeshFiles::write(mesh, before);
+        QFile hole(mesh);
+        const bool isMade = hole.open(QIODevice::ReadWrite) && hole.resize(before.size() + lineSize) &&
+                            hole.seek(hole.size()) && hole.write(after) == after.size();
+        hole.close();
+        const ProgramRun run = runMeshQuality(report + QStringList{mesh});
+        rusage children{};
+        getrusage(RUSAGE_CHILDREN, &children);
+        return isMade && run.exitCode == 0 ? qint64(children.ru_maxrss) * 1024 : std::numeric_limits<qint64>::max();
+    };
+    const int nodes = good.indexOf("$Nodes");
+    const qint64 outside = peakAfterReport(good.left(nodes), '\n' + good.mid(nodes));
+    QVERIFY2(outside < lineSize / 2, QByteArray::number(outside).constData());
+    const int end = good.indexOf("$EndNodes");
+    const qint64 inNodes = peakAfterReport(good.left(end), '\n' + good.mid(end));
+    QVERIFY2(inNodes < lineSize + lineSize / 4, QByteArray::number(inNodes).constData());
+    QFile::remove(mesh);
 }
 
 void MeshQualityProgramTest::tellsSkippedLines()
@@ -459,6 +584,10 @@ void MeshQualityProgramTest::refusesUnreadableMeshes_data()
                                            "gmsh -save -format msh22 -o converted.msh '" +
                                            script.toUtf8() + "'");
     QTest::newRow("no tetrahedra") << file("flat.msh", MeshFiles::mesh({"1 0 0 0"}, {})) << QByteArray("no tetrahedra");
+    QTest::newRow("only broken tetrahedra")
+        << file("broken.msh", MeshFiles::mesh({"1 0 0 0"}, {"1 4 2 0 1 1 2 3 4", "2 4 2"}))
+        << QByteArray("no tetrahedra (2 lines skipped, first: line 10: names a node that is not there (nodes are "
+                      "numbered by their place in the file))");
 }
 
 void MeshQualityProgramTest::refusesUnreadableMeshes()
@@ -493,10 +622,20 @@ void MeshQualityProgramTest::tellsOfModelTrouble()
     QFETCH(QString, modelFile);
     const ProgramRun run = runMeshQuality(report + QStringList{QStringLiteral("--model"), modelFile, slivers});
     QCOMPARE(run.exitCode, 4);
-    QCOMPARE(run.output, QByteArray());
+    QVERIFY(run.output.contains("  777 nodes, 3156 tetrahedra (0 inverted, 0 flat)\n"));
+    QVERIFY(run.output.endsWith("  no score: the model cannot be used\n"));
     const QByteArray start = "meshquality: " + modelFile.toUtf8() + ": ";
     QVERIFY2(run.errors.contains(start), run.errors.constData());
     QVERIFY(run.errors.mid(run.errors.indexOf(start)).size() > start.size() + 10);
+
+    const ProgramRun json = runMeshQuality(report + QStringList{QStringLiteral("--json"), QStringLiteral("-"),
+                                                                QStringLiteral("--model"), modelFile, slivers});
+    QCOMPARE(json.exitCode, 4);
+    const QJsonObject mesh = onlyObject(json.output);
+    QCOMPARE(mesh.value(QStringLiteral("tetrahedra")).toInt(), 3156);
+    QVERIFY(mesh.value(QStringLiteral("score")).isNull());
+    QCOMPARE(mesh.value(QStringLiteral("features")).toObject().size(), 11);
+    QVERIFY(json.errors.contains(start));
 }
 
 void MeshQualityProgramTest::takesAnyPath()

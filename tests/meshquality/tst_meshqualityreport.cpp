@@ -29,7 +29,12 @@ private Q_SLOTS:
     void agreesWithLiteralPipeline();
     void keepsPlacesInTheFile();
     void countsBadElements();
+    void countsRepeatedNodesWithVolume();
     void tellsSkippedLines();
+    void keepsTheFirstSkippedLines();
+    void tellsSkippedLinesWithoutTetrahedra();
+    void warnsOfLayout_data();
+    void warnsOfLayout();
     void tellsWhatIsWrong_data();
     void tellsWhatIsWrong();
     void acceptsVersion2_data();
@@ -113,6 +118,17 @@ void MeshQualityReportTest::countsBadElements()
     QCOMPARE(report.duplicateNodeCount(), 1);
 }
 
+// Rounding leaves a volume of about -6e-19.
+void MeshQualityReportTest::countsRepeatedNodesWithVolume()
+{
+    MeshQualityReport report;
+    QVERIFY(report.measure(
+        file(MeshFiles::mesh({"1 0.3 0.1 0.7", "2 0.0 0.6 0.6", "3 0.9 0.0 0.7"}, {"1 4 2 0 1 1 2 3 2"}))));
+    QVERIFY(report.values(Metric::Volume).front() != 0.0);
+    QCOMPARE(report.duplicateNodeCount(), 1);
+    QCOMPARE(report.flatCount(), 0);
+}
+
 void MeshQualityReportTest::tellsSkippedLines()
 {
     const QByteArray content =
@@ -133,6 +149,98 @@ void MeshQualityReportTest::tellsSkippedLines()
         QCOMPARE(lines[static_cast<std::size_t>(i)].line, expected.at(i).first);
         QVERIFY(lines[static_cast<std::size_t>(i)].reason == expected.at(i).second);
     }
+}
+
+void MeshQualityReportTest::keepsTheFirstSkippedLines()
+{
+    QList<QByteArray> elements{"1 4 2 0 1 1 2 3 4"};
+    for (int i = 0; i < 1500; ++i) {
+        elements.append("1 4 2");
+        elements.append("1 4 2 0 1 1 2 3 5");
+    }
+    MeshQualityReport report;
+    QVERIFY(report.measure(file(MeshFiles::mesh({"1 0 0 0", "2 1 0 0", "3 0 1 0", "4 0 0 1", "5"}, elements))));
+    QCOMPARE(report.skippedLineCount(), qint64(3001));
+    QCOMPARE(report.skippedLineCount(SkipReason::ShortNode), qint64(1));
+    QCOMPARE(report.skippedLineCount(SkipReason::ShortTetrahedron), qint64(1500));
+    QCOMPARE(report.skippedLineCount(SkipReason::MissingNode), qint64(1500));
+    QCOMPARE(report.skippedLines().size(), std::size_t(1000));
+    QCOMPARE(report.skippedLines()[0].line, qint64(10));
+    for (int i = 1; i < 1000; ++i) {
+        const MeshQualityReport::SkippedLine& line = report.skippedLines()[static_cast<std::size_t>(i)];
+        QCOMPARE(line.line, qint64(14 + i));
+        QVERIFY(line.reason == (i % 2 == 1 ? SkipReason::ShortTetrahedron : SkipReason::MissingNode));
+    }
+}
+
+void MeshQualityReportTest::tellsSkippedLinesWithoutTetrahedra()
+{
+    MeshQualityReport report;
+    QVERIFY(!report.measure(file(MeshFiles::mesh({"1 0 0 0"}, {"1 4 0 1 1 1 1", "2 4 2 0 1 1 1 1 2", "3 4"}))));
+    QVERIFY(report.problem() == Problem::NoTetrahedra);
+    QCOMPARE(report.problemText(),
+             QStringLiteral("no tetrahedra (2 lines skipped, first: line 10: a tetrahedron needs nine columns)"));
+    QCOMPARE(report.skippedLineCount(), qint64(2));
+    QCOMPARE(report.skippedLines().size(), std::size_t(2));
+    QCOMPARE(report.otherTagCounts().count, qint64(1));
+    QCOMPARE(report.warnings().size(), 1);
+    // The next mesh knows nothing of it.
+    QVERIFY(report.measure(file(MeshFiles::oneTetrahedron(MeshFiles::regular()))));
+    QCOMPARE(report.skippedLineCount(), qint64(0));
+    QCOMPARE(report.otherTagCounts().firstLine, qint64(0));
+    QCOMPARE(report.warnings(), QStringList());
+}
+
+void MeshQualityReportTest::warnsOfLayout_data()
+{
+    QTest::addColumn<QList<QByteArray>>("nodes");
+    QTest::addColumn<QList<QByteArray>>("elements");
+    QTest::addColumn<qint64>("misnumbered");
+    QTest::addColumn<qint64>("firstMisnumbered");
+    QTest::addColumn<qint64>("otherTags");
+    QTest::addColumn<qint64>("firstOtherTags");
+    const QList<QByteArray> nodes{"1 0 0 0", "2 1 0 0", "3 0 1 0", "4 0 0 1"};
+    const QList<QByteArray> elements{"9 4 2 0 1 1 2 3 4"};
+    const auto row = [](const char* name, const QList<QByteArray>& nodeLines, const QList<QByteArray>& elementLines,
+                        qint64 misnumbered, qint64 firstMisnumbered, qint64 otherTags, qint64 firstOtherTags) {
+        QTest::newRow(name) << nodeLines << elementLines << misnumbered << firstMisnumbered << otherTags
+                            << firstOtherTags;
+    };
+    row("as it should be", nodes, elements, 0, 0, 0, 0);
+    row("from 0", {"0 0 0 0", "1 1 0 0", "2 0 1 0", "3 0 0 1"}, elements, 4, 6, 0, 0);
+    row("exchanged", {"1 0 0 0", "3 1 0 0", "2 0 1 0", "4 0 0 1"}, elements, 2, 7, 0, 0);
+    row("a gap", {"1 0 0 0", "2 1 0 0", "3 0 1 0", "5 0 0 1"}, elements, 1, 9, 0, 0);
+    row("moved up by a short line", {"1 0 0 0", "2", "3 1 0 0", "4 0 1 0", "5 0 0 1"}, elements, 3, 8, 0, 0);
+    row("no number", {"1 0 0 0", "2 1 0 0", "x 0 1 0", "4 0 0 1"}, elements, 1, 8, 0, 0);
+    row("three tags", nodes, {"9 4 2 0 1 1 2 3 4", "9 4 3 0 1 1 2 3 4", "9 4 3 0 1 1 2 3 4"}, 0, 0, 2, 14);
+    row("no tags", nodes, {"9 4 2 0 1 1 2 3 4", "9 4 0 1 2 3 4"}, 0, 0, 1, 14);
+    row("another type", nodes, {"9 4 2 0 1 1 2 3 4", "9 2 3 0 1 1 2 3 4", "9 4"}, 0, 0, 0, 0);
+    row("a missing node, too", nodes, {"9 4 4 0 1 2 1 2 3 4", "9 4 4 0 1 9 1 2 3 4"}, 0, 0, 2, 13);
+}
+
+void MeshQualityReportTest::warnsOfLayout()
+{
+    QFETCH(QList<QByteArray>, nodes);
+    QFETCH(QList<QByteArray>, elements);
+    QFETCH(qint64, misnumbered);
+    QFETCH(qint64, otherTags);
+    const QString path = file(MeshFiles::mesh(nodes, elements));
+    MeshQualityReport report;
+    QVERIFY(report.measure(path));
+    QCOMPARE(report.misnumberedNodes().count, misnumbered);
+    QTEST(report.misnumberedNodes().firstLine, "firstMisnumbered");
+    QCOMPARE(report.otherTagCounts().count, otherTags);
+    QTEST(report.otherTagCounts().firstLine, "firstOtherTags");
+    QCOMPARE(report.warnings().size(), (misnumbered > 0 ? 1 : 0) + (otherTags > 0 ? 1 : 0));
+    for (const QString& warning : report.warnings()) {
+        const MeshQualityReport::Places places = misnumbered > 0 ? report.misnumberedNodes() : report.otherTagCounts();
+        QVERIFY(warning.startsWith(QString::number(places.count)));
+        QVERIFY(warning.contains(QStringLiteral("(first: line %1)").arg(places.firstLine)));
+        QVERIFY(warning.contains(QStringLiteral("gmsh -save -format msh22 -o ")));
+        QVERIFY(warning.endsWith(QStringLiteral(".msh '%1'").arg(path)));
+    }
+    // As the described reader takes them, warning or not.
+    QVERIFY(SameValues::same(report.features(), LiteralPipeline::features(path)));
 }
 
 void MeshQualityReportTest::tellsWhatIsWrong_data()
@@ -166,6 +274,14 @@ void MeshQualityReportTest::tellsWhatIsWrong_data()
         advice("MSH 2.x ASCII", "version 2.x"));
     row("binary", QByteArray("$MeshFormat\n2.2 1 8\n\1\0\0\0\n$EndMeshFormat\n", 40), Problem::WrongFormat,
         advice("MSH 2.2 binary", "binary"));
+    row("no file type", "$MeshFormat\n2.2\n$EndMeshFormat\n", Problem::WrongFormat,
+        advice("MSH 2.2 of file type ''", "no file type"));
+    row("blank after the marker", "$MeshFormat\n \n2.2 0 8\n$EndMeshFormat\n", Problem::WrongFormat,
+        advice("a file with a blank line after $MeshFormat", "blank after the marker"));
+    row("cut after the marker", "$MeshFormat\n", Problem::WrongFormat,
+        advice("a file with nothing after $MeshFormat", "cut after the marker"));
+    row("nothing in the format", "$MeshFormat\n$EndMeshFormat\n", Problem::WrongFormat,
+        advice("a file with nothing after $MeshFormat", "nothing in the format"));
     row("no header", "$Nodes\n1\n1 0 0 0\n$EndNodes\n", Problem::WrongFormat,
         advice("a file without $MeshFormat", "no header"));
     row("no tetrahedra", MeshFiles::mesh({"1 0 0 0"}, {"1 15 2 0 1 1"}), Problem::NoTetrahedra,

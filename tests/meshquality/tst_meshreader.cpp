@@ -23,6 +23,8 @@ class MeshReaderTest : public QObject
 private Q_SLOTS:
     void readsLines_data();
     void readsLines();
+    void findsMarkersInLongLines_data();
+    void findsMarkersInLongLines();
     void appendsToTables();
     void countsNodesAlreadyThere();
     void hasNoLinesWithoutRegularFile_data();
@@ -110,6 +112,40 @@ void MeshReaderTest::readsLines()
     m_predict.get_Nodes_Elements(file(content), nodes, elements);
     QTEST(nodes, "nodes");
     QTEST(elements, "elements");
+}
+
+void MeshReaderTest::findsMarkersInLongLines_data()
+{
+    QTest::addColumn<int>("before");
+    QTest::addColumn<int>("after");
+    // Around the sizes at which a reader in pieces of some kB may cut.
+    for (const int size : {4096, 8192, 131072, 262144, 393216, 516049, 524288}) {
+        for (int before = size - 16; before <= size + 16; before += 4) {
+            QTest::addRow("%d before", before) << before << 300001;
+        }
+        QTest::addRow("%d before, nothing after", size) << size << 0;
+        QTest::addRow("%d after", size) << 3 << size;
+    }
+}
+
+// The long line opens the nodes; another one, between the sections, opens the elements and closes the nodes, which
+// wins.
+void MeshReaderTest::findsMarkersInLongLines()
+{
+    QFETCH(int, before);
+    QFETCH(int, after);
+    const auto around = [&](const QByteArray& text) {
+        return QByteArray(before, 'x') + text + QByteArray(after, '$') + '\n';
+    };
+    const QByteArray content = around("$Nodes") + "1\n1 1 2 3\n$EndNodes\n" + around("$Node") + "8 8 8 8\n" +
+                               around("$End$Elements$EndNodes") + "2 7 8 9\n" + around("$EndElements$Elements") +
+                               "1\n1 4 2 0 1 1 1 1 1\n$EndElements\n" + around("$Nodes$EndNodes") +
+                               "2 4 5 6\n$EndNodes\n" + QByteArray(after, 'y');
+    Nodes nodes;
+    Elements elements;
+    m_predict.get_Nodes_Elements(file(content), nodes, elements);
+    QCOMPARE(nodes, (Nodes{{1, 2, 3}, {4, 5, 6}}));
+    QCOMPARE(elements, (Elements{{1, 1, 1, 1}}));
 }
 
 void MeshReaderTest::appendsToTables()

@@ -71,6 +71,10 @@ private Q_SLOTS:
     void keepsTenScores();
     void skipsTheUnchangedMesh();
     void comparesTenFeaturesOnly();
+    void drawsTheLineAtTheThreshold_data();
+    void drawsTheLineAtTheThreshold();
+    void namesTheModelFile();
+    void startsNoThreads();
     void scoresZerosWithoutMesh();
     void keepsTheLoadedModel();
     void usesTheGivenInputSize();
@@ -323,6 +327,74 @@ void QualityPredictionTest::comparesTenFeaturesOnly()
     }
     predict.predict();
     QCOMPARE(predict.getOutput(), endingWith({once.back(), once.back()}));
+}
+
+void QualityPredictionTest::drawsTheLineAtTheThreshold_data()
+{
+    QTest::addColumn<double>("angle");
+    QTest::addColumn<int>("scores");
+    // The cosine is 1 - angle^2 / 2 in good approximation.
+    QTest::newRow("0.99999992") << 4e-4 << 1;
+    QTest::newRow("0.99999982") << 6e-4 << 2;
+    QTest::newRow("0.999992") << 4e-3 << 2;
+}
+
+void QualityPredictionTest::drawsTheLineAtTheThreshold()
+{
+    QFETCH(double, angle);
+    QFETCH(int, scores);
+    installModel("above-one");
+    installMesh(corner(1));
+    MeshQualityPredict predict;
+    predict.predict();
+    // Turned by the angle within the plane of the two largest features.
+    float* const features = predict.m_lastInput;
+    const std::vector<float> before(features, features + 10);
+    const double a = static_cast<double>(before[4]);
+    const double b = static_cast<double>(before[1]);
+    double squares = 0.0;
+    for (const float feature : before) {
+        squares += std::pow(static_cast<double>(feature), 2);
+    }
+    const double step = angle * std::sqrt(squares / (a * a + b * b));
+    features[4] = static_cast<float>(a - step * b);
+    features[1] = static_cast<float>(b + step * a);
+    const double expected = 1.0 / std::sqrt(1.0 + angle * angle);
+    QVERIFY(std::fabs(predict.cosDistance(features, const_cast<float*>(before.data())) - expected) < 1e-9);
+    predict.predict();
+    QCOMPARE(predict.getOutput(), endingWith(History(static_cast<std::size_t>(scores), 1.0F)));
+}
+
+void QualityPredictionTest::namesTheModelFile()
+{
+    MeshQualityPredict predict;
+    QByteArray message;
+    try {
+        predict.predict();
+    } catch (const Ort::Exception& error) {
+        message = error.what();
+    }
+    // The slash is doubled.
+    const QByteArray path = QCoreApplication::applicationDirPath().toUtf8() + "//../mesher/mesh.onnx";
+    QVERIFY2(message.contains(path), message.constData());
+}
+
+void QualityPredictionTest::startsNoThreads()
+{
+    const auto threads = [] {
+        return QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
+    };
+    const QByteArray model = QFile::encodeName(fixture("volume"));
+    const int before = threads();
+    MeshQualityPredict predict;
+    predict.loadModel(model.constData(), "onnx::Gemm_0", "19");
+    const int withSession = threads();
+    const Ort::Env environment;
+    const Ort::Session session(environment, model.constData(), Ort::SessionOptions());
+    if (threads() == withSession) {
+        QSKIP("a session would start no threads here even if it might, as on one core");
+    }
+    QCOMPARE(withSession, before);
 }
 
 void QualityPredictionTest::scoresZerosWithoutMesh()
