@@ -344,7 +344,7 @@ void MeshQualityProgramTest::warnsOfLayout()
 {
     const QString mesh = file("renumbered.msh", MeshFiles::mesh({"1 0 0 0", "3 1 0 0", "2 0 1 0", "4 0 0 1"},
                                                                 {"1 4 2 0 1 1 2 3 4", "2 4 3 0 1 1 2 3 4"}));
-    const QStringList warnings = measured(mesh).warnings();
+    const QStringList warnings = measured(mesh).warnings(mesh);
     QCOMPARE(warnings.size(), 2);
     const QByteArray start = "meshquality: " + mesh.toUtf8() + ": warning: ";
     const QByteArray expected = start + warnings.at(0).toUtf8() + '\n' + start + warnings.at(1).toUtf8() + '\n';

@@ -183,12 +183,12 @@ void MeshQualityReportTest::tellsSkippedLinesWithoutTetrahedra()
     QCOMPARE(report.skippedLineCount(), qint64(2));
     QCOMPARE(report.skippedLines().size(), std::size_t(2));
     QCOMPARE(report.otherTagCounts().count, qint64(1));
-    QCOMPARE(report.warnings().size(), 1);
+    QCOMPARE(report.warnings(QString()).size(), 1);
     // The next mesh knows nothing of it.
     QVERIFY(report.measure(file(MeshFiles::oneTetrahedron(MeshFiles::regular()))));
     QCOMPARE(report.skippedLineCount(), qint64(0));
     QCOMPARE(report.otherTagCounts().firstLine, qint64(0));
-    QCOMPARE(report.warnings(), QStringList());
+    QCOMPARE(report.warnings(QString()), QStringList());
 }
 
 void MeshQualityReportTest::warnsOfLayout_data()
@@ -231,8 +231,8 @@ void MeshQualityReportTest::warnsOfLayout()
     QTEST(report.misnumberedNodes().firstLine, "firstMisnumbered");
     QCOMPARE(report.otherTagCounts().count, otherTags);
     QTEST(report.otherTagCounts().firstLine, "firstOtherTags");
-    QCOMPARE(report.warnings().size(), (misnumbered > 0 ? 1 : 0) + (otherTags > 0 ? 1 : 0));
-    for (const QString& warning : report.warnings()) {
+    QCOMPARE(report.warnings(path).size(), (misnumbered > 0 ? 1 : 0) + (otherTags > 0 ? 1 : 0));
+    for (const QString& warning : report.warnings(path)) {
         const MeshQualityReport::Places places = misnumbered > 0 ? report.misnumberedNodes() : report.otherTagCounts();
         QVERIFY(warning.startsWith(QString::number(places.count)));
         QVERIFY(warning.contains(QStringLiteral("(first: line %1)").arg(places.firstLine)));
