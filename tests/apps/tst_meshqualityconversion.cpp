@@ -317,14 +317,18 @@ void MeshQualityConversionTest::refusesDamagedGrids_data()
     row("whole", "x", "x", "");
     row("other type", "UnstructuredGrid", "PolyData", "not a VTK XML unstructured grid");
     row("no XML", "<?xml version=\"1.0\"?>\n<", "", "not a VTK XML unstructured grid");
-    row("negative corner", "0 1 2 3", "0 1 2 -1", "no tetrahedra");
-    row("corner beyond the points", "0 1 2 3", "0 1 2 4", "no tetrahedra");
+    const QByteArray noTetrahedra = "no tetrahedra ";
+    const QByteArray missingNode = "names a node that is not there (nodes are numbered by their place in the file))";
+    row("negative corner", "0 1 2 3", "0 1 2 -1", noTetrahedra + "(1 lines skipped, first: line 13: " + missingNode);
+    row("corner beyond the points", "0 1 2 3", "0 1 2 4",
+        noTetrahedra + "(1 lines skipped, first: line 13: " + missingNode);
     row("offset beyond the corners", "offsets\" format=\"ascii\">4", "offsets\" format=\"ascii\">4000000",
         "a damaged VTK XML unstructured grid");
     row("negative offset", "offsets\" format=\"ascii\">4", "offsets\" format=\"ascii\">-4",
         "a damaged VTK XML unstructured grid");
     row("other cells", "types\" format=\"ascii\">10", "types\" format=\"ascii\">9", "no tetrahedra");
-    row("no points", "NumberOfPoints=\"4\"", "NumberOfPoints=\"0\"", "no tetrahedra");
+    row("no points", "NumberOfPoints=\"4\"", "NumberOfPoints=\"0\"",
+        noTetrahedra + "(1 lines skipped, first: line 9: " + missingNode);
     row("too many points", "NumberOfPoints=\"4\"", "NumberOfPoints=\"4000\"", "a damaged VTK XML unstructured grid");
     row("cut", "</DataArray></Points>", "", "a damaged VTK XML unstructured grid");
 }
