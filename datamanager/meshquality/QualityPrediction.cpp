@@ -7,6 +7,7 @@
 #include <datamanager/meshquality/private/OnnxRuntime.h>
 
 #include <QCoreApplication>
+#include <QtGlobal>
 
 #include <cmath>
 #include <iostream>
@@ -37,10 +38,41 @@ Object created(Object object)
     return object;
 }
 
+// Some builds of the runtime report their use to their maker, and begin when the environment is created. They ask this
+// variable first; who sets it decides.
+class TelemetryRefusal
+{
+public:
+    TelemetryRefusal() : m_isOurs(!qEnvironmentVariableIsSet(variable))
+    {
+        if (m_isOurs) {
+            qputenv(variable, "1");
+        }
+    }
+    ~TelemetryRefusal()
+    {
+        if (m_isOurs) {
+            qunsetenv(variable);
+        }
+    }
+    TelemetryRefusal(const TelemetryRefusal&) = delete;
+    TelemetryRefusal& operator=(const TelemetryRefusal&) = delete;
+
+private:
+    static constexpr const char* variable = "ORT_DISABLE_TELEMETRY";
+    bool m_isOurs;
+};
+
+Ort::Env* createEnvironment()
+{
+    const TelemetryRefusal refusal;
+    return new Ort::Env(created(Ort::Env(ORT_LOGGING_LEVEL_WARNING, "Default")));
+}
+
 // Never released: a session must not outlive the environment that it was created in.
 Ort::Env& environment()
 {
-    static Ort::Env* const instance = new Ort::Env(created(Ort::Env(ORT_LOGGING_LEVEL_WARNING, "Default")));
+    static Ort::Env* const instance = createEnvironment();
     return *instance;
 }
 
