@@ -3,6 +3,8 @@
 
 #include "MeshQualityProgram.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QProcess>
 
 namespace {
@@ -29,4 +31,10 @@ ProgramRun runMeshQualityInto(const QString& output, const QStringList& argument
     QProcess process;
     process.setStandardOutputFile(output);
     return finish(process, QString(), arguments);
+}
+
+QJsonObject onlyObject(const QByteArray& json)
+{
+    const QJsonArray array = QJsonDocument::fromJson(json).array();
+    return array.size() == 1 ? array.first().toObject() : QJsonObject();
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QJsonObject>
 #include <QStringList>
 
 /// What one run of the program left behind.
@@ -19,3 +20,6 @@ ProgramRun runMeshQuality(const QStringList& arguments, const QString& program =
 
 /// The same, with its standard output into a file or device.
 ProgramRun runMeshQualityInto(const QString& output, const QStringList& arguments);
+
+/// The only object of a JSON array; empty when there is another number of them.
+QJsonObject onlyObject(const QByteArray& json);
