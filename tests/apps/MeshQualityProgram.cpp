@@ -3,6 +3,8 @@
 
 #include "MeshQualityProgram.h"
 
+#include "meshquality/MeshFiles.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QProcess>
@@ -37,4 +39,20 @@ QJsonObject onlyObject(const QByteArray& json)
 {
     const QJsonArray array = QJsonDocument::fromJson(json).array();
     return array.size() == 1 ? array.first().toObject() : QJsonObject();
+}
+
+QString ScratchFiles::path(const char* name) const
+{
+    return m_directory.filePath(QString::fromUtf8(name));
+}
+
+QString ScratchFiles::file(const char* name, const QByteArray& content) const
+{
+    MeshFiles::write(path(name), content);
+    return path(name);
+}
+
+QString ScratchFiles::model(const char* name)
+{
+    return QStringLiteral(DATAMANAGER_SOURCE_DIR "/tests/meshquality/models/%1.onnx").arg(QString::fromLatin1(name));
 }

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QJsonObject>
 #include <QStringList>
+#include <QTemporaryDir>
 
 /// What one run of the program left behind.
 struct ProgramRun
@@ -23,3 +24,14 @@ ProgramRun runMeshQualityInto(const QString& output, const QStringList& argument
 
 /// The only object of a JSON array; empty when there is another number of them.
 QJsonObject onlyObject(const QByteArray& json);
+
+/// Files of one test program, removed at its end, and the models made for tests.
+struct ScratchFiles
+{
+    QString path(const char* name) const;
+    /// The path of a new file with this content.
+    QString file(const char* name, const QByteArray& content) const;
+    static QString model(const char* name);
+
+    QTemporaryDir m_directory;
+};

@@ -15,7 +15,7 @@
 #include <sys/resource.h>
 
 /// What the program says about meshes whose figures cannot be taken at their word.
-class MeshQualityExplanationsTest : public QObject
+class MeshQualityExplanationsTest : public QObject, private ScratchFiles
 {
     Q_OBJECT
 
@@ -27,21 +27,6 @@ private Q_SLOTS:
     void warnsOfLayout();
     void readsLongLinesInLittleMemory();
     void tellsSkippedLines();
-
-private:
-    QString path(const char* name) const { return m_directory.filePath(QString::fromUtf8(name)); }
-    QString file(const char* name, const QByteArray& content) const
-    {
-        MeshFiles::write(path(name), content);
-        return path(name);
-    }
-    static QString model(const char* name)
-    {
-        return QStringLiteral(DATAMANAGER_SOURCE_DIR "/tests/meshquality/models/%1.onnx")
-            .arg(QString::fromLatin1(name));
-    }
-
-    QTemporaryDir m_directory;
 };
 
 namespace {

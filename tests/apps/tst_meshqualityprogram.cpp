@@ -22,7 +22,7 @@
 
 using Metric = DataManager::MeshQualityReport::Metric;
 
-class MeshQualityProgramTest : public QObject
+class MeshQualityProgramTest : public QObject, private ScratchFiles
 {
     Q_OBJECT
 
@@ -53,17 +53,6 @@ private Q_SLOTS:
     void refusesToPredict();
 
 private:
-    QString path(const char* name) const { return m_directory.filePath(QString::fromUtf8(name)); }
-    QString file(const char* name, const QByteArray& content) const
-    {
-        MeshFiles::write(path(name), content);
-        return path(name);
-    }
-    static QString model(const char* name)
-    {
-        return QStringLiteral(DATAMANAGER_SOURCE_DIR "/tests/meshquality/models/%1.onnx")
-            .arg(QString::fromLatin1(name));
-    }
     /// A copy of the program in an application directory of its own.
     QString installedProgram() const
     {
@@ -74,8 +63,6 @@ private:
         QFile::copy(QStringLiteral(MESHQUALITY_PROGRAM), program);
         return program;
     }
-
-    QTemporaryDir m_directory;
 };
 
 namespace {
