@@ -16,3 +16,5 @@ double publicCalls(const std::string& path);
 double vtkMeasures(const std::string& path);
 /// Reads the bytes and converts every number, nothing else: no reader of the text can be faster by much.
 double numbersOnly(const std::string& path);
+/// The same as the streamed features, line by line and container by container as one would first write it with Qt.
+double plainQt(const std::string& path);

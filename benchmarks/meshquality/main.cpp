@@ -24,7 +24,8 @@ struct Contender
 constexpr Contender contenders[] = {{"(a) getInput", streamedFeatures},
                                     {"(b) public calls", publicCalls},
                                     {"(c) fscanf and VTK", vtkMeasures},
-                                    {"(d) numbers only", numbersOnly}};
+                                    {"(d) numbers only", numbersOnly},
+                                    {"(e) plain Qt", plainQt}};
 
 // By a symbolic link, so that the library finds the mesh where it looks.
 bool install(const QString& mesh)
