@@ -4,10 +4,9 @@
 #include <datamanager/meshquality/MeshQualityPredict.h>
 
 #include <datamanager/frame/Singleton.h>
-#include <datamanager/meshquality/private/OnnxRuntime.h>
+#include <datamanager/meshquality/private/ModelRuntime.h>
 
 #include <QCoreApplication>
-#include <QtGlobal>
 
 #include <cmath>
 #include <iostream>
@@ -22,84 +21,9 @@ constexpr int comparedFeatureCount = 10;
 constexpr std::size_t historyLength = 10;
 constexpr double unchangedSimilarity = 0.9999999;
 
-const OrtApi* functionTable()
-{
-    const OrtApi* api = OrtGetApiBase()->GetApi(6);
-    Ort::InitApi(api);
-    return api;
-}
-
-template <class Object>
-Object created(Object object)
-{
-    if (!object) {
-        throw Ort::Exception("Allocation failure", ORT_FAIL);
-    }
-    return object;
-}
-
-// Some builds of the runtime report their use to their maker, and begin when the environment is created. They ask this
-// variable first; who sets it decides.
-class TelemetryRefusal
-{
-public:
-    TelemetryRefusal() : m_isOurs(!qEnvironmentVariableIsSet(variable))
-    {
-        if (m_isOurs) {
-            qputenv(variable, "1");
-        }
-    }
-    ~TelemetryRefusal()
-    {
-        if (m_isOurs) {
-            qunsetenv(variable);
-        }
-    }
-    TelemetryRefusal(const TelemetryRefusal&) = delete;
-    TelemetryRefusal& operator=(const TelemetryRefusal&) = delete;
-
-private:
-    static constexpr const char* variable = "ORT_DISABLE_TELEMETRY";
-    bool m_isOurs;
-};
-
-Ort::Env* createEnvironment()
-{
-    const TelemetryRefusal refusal;
-    return new Ort::Env(created(Ort::Env(ORT_LOGGING_LEVEL_WARNING, "Default")));
-}
-
-// Never released: a session must not outlive the environment that it was created in.
-Ort::Env& environment()
-{
-    static Ort::Env* const instance = createEnvironment();
-    return *instance;
-}
-
-std::basic_string<ORTCHAR_T> runtimePath(const char* path)
-{
-#ifdef _WIN32
-    std::wstring wide(std::strlen(path) + 1, L'\0');
-    std::size_t length = 0;
-    mbstowcs_s(&length, wide.data(), wide.size(), path, wide.size() - 1);
-    wide.resize(length > 0 ? length - 1 : 0);
-    return wide;
-#else
-    return path;
-#endif
-}
-
-void requireFloats(const Ort::Value& output)
-{
-    const Ort::TensorTypeAndShapeInfo shape = output.GetTensorTypeAndShapeInfo();
-    if (shape.GetElementType() != ONNX_TENSOR_ELEMENT_DATA_TYPE_FLOAT || shape.GetElementCount() == 0) {
-        throw Ort::Exception("The model's output is no tensor of at least one float", ORT_FAIL);
-    }
-}
-
 } // namespace
 
-const OrtApi* MeshQualityPredict::s_ortApi = functionTable();
+const OrtApi* MeshQualityPredict::s_ortApi = ModelRuntime::functionTable();
 Ort::Session* MeshQualityPredict::s_session = nullptr;
 MeshQualityPredict* MeshQualityPredict::m_instance = nullptr;
 
@@ -136,11 +60,9 @@ void MeshQualityPredict::loadModel(const char* modelPath, const char* inputName,
     if (s_ortApi == nullptr) {
         throw Ort::Exception("The model runtime does not offer version 6 of its interface", ORT_FAIL);
     }
-    const std::basic_string<ORTCHAR_T> path = runtimePath(modelPath == nullptr ? "" : modelPath);
-    Ort::Env& env = environment();
-    Ort::SessionOptions options = created(Ort::SessionOptions());
+    Ort::SessionOptions options = ModelRuntime::created(Ort::SessionOptions());
     options.SetIntraOpNumThreads(1);
-    auto session = std::make_unique<Ort::Session>(created(Ort::Session(env, path.c_str(), options)));
+    std::unique_ptr<Ort::Session> session = ModelRuntime::openSession(modelPath, options);
     delete s_session;
     s_session = session.release();
     m_inputName = inputName;
@@ -155,15 +77,8 @@ float MeshQualityPredict::inferFigure(void* input)
     if (s_session == nullptr || input == nullptr) {
         throw Ort::Exception(s_session == nullptr ? "No model is loaded" : "No input is given", ORT_INVALID_ARGUMENT);
     }
-    const std::array<int64_t, 2> shape{1, m_inputSize};
-    const Ort::MemoryInfo memory = created(Ort::MemoryInfo::CreateCpu(OrtDeviceAllocator, OrtMemTypeDefault));
-    const Ort::Value tensor =
-        created(Ort::Value::CreateTensor(memory, input, static_cast<std::size_t>(m_inputSize) * sizeof(float),
-                                         shape.data(), shape.size(), ONNX_TENSOR_ELEMENT_DATA_TYPE_FLOAT));
-    std::vector<Ort::Value> outputs =
-        s_session->Run(Ort::RunOptions(nullptr), &m_inputName, &tensor, 1, &m_outputName, 1);
-    requireFloats(outputs.front());
-    float& score = *outputs.front().GetTensorMutableData<float>();
+    Ort::Value output = ModelRuntime::run(*s_session, m_inputName, input, m_inputSize, m_outputName);
+    float& score = *output.GetTensorMutableData<float>();
     if (score > 1.0F) {
         score = 1.0F;
     } else if (score < 0.0F) {
