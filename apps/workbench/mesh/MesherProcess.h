@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#pragma once
+
+#include <workbench/mesh/MesherProgress.h>
+
+#include <QObject>
+#include <QProcess>
+#include <QString>
+
+namespace Workbench {
+
+/// Runs the mesher `gmsh` as a child process on a geometry file. The mesh goes to "../temp/mesh.msh" beside the
+/// program, where the predictor reads it, and is then opened by the MeshManager. One run at a time.
+///
+/// The program is the one that the environment variable WORKBENCH_GMSH names, else the first `gmsh` of the search path.
+class MesherProcess : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The mesher of the process, created by the first call and never destroyed.
+    static MesherProcess* instance();
+
+    /// Meshes a .geo, .step, .stp, .brep or .iges file with tetrahedra. `elementSize` is the largest edge in model
+    /// units; 0 leaves it to the file. False, with a message, when a run is under way or the mesher cannot be started.
+    bool start(const QString& geometryPath, double elementSize = 0);
+    bool isRunning() const { return m_process.state() != QProcess::NotRunning; }
+    /// Ends the run; nothing is opened and nothing is told but signal_finished(false).
+    void cancel();
+
+    /// Whether files of this name are geometry that the mesher reads.
+    static bool isGeometry(const QString& path);
+    /// Where the mesh goes.
+    static QString outputPath();
+
+Q_SIGNALS:
+    void signal_started(QString geometryPath);
+    void signal_progress(int percent);
+    /// A piece of what the mesher prints.
+    void signal_output(QString text);
+    void signal_finished(bool isMeshed);
+
+private:
+    MesherProcess();
+    ~MesherProcess() override = default;
+
+    void read();
+    void finish(int exitCode, QProcess::ExitStatus status);
+    void failToStart(QProcess::ProcessError error);
+    QString failureText(int exitCode, QProcess::ExitStatus status) const;
+    static QString program();
+    static void showError(const QString& text);
+
+    QProcess m_process;
+    MesherProgress m_progress;
+    QString m_geometryPath;
+    bool m_isCancelled = false;
+};
+
+} // namespace Workbench
