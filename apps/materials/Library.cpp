@@ -37,7 +37,7 @@ QString openLibrary(const LibraryName& name, bool isPlain, bool mayBeMissing)
     }
     const bool isMissing = !QFileInfo::exists(name.path());
     if (!isMissing || !mayBeMissing) {
-        const QString fault = readLibraryText(name.path(), isProject(name) && !isPlain).fault;
+        QString fault = readLibraryText(name.path(), isProject(name) && !isPlain).fault;
         if (!fault.isEmpty()) {
             return fault;
         }

@@ -51,7 +51,7 @@ QString convertMsh(ScoredMesh& mesh, const QString& directory, QString& problem)
         return QString();
     }
     mesh.convertedFrom = mesh.report.otherFormat();
-    const QString target = GmshConversion().convert(mesh.file, directory, problem);
+    QString target = GmshConversion().convert(mesh.file, directory, problem);
     if (target.isEmpty()) {
         problem = QStringLiteral("%1, and gmsh cannot convert it: %2").arg(mesh.convertedFrom, problem);
     }

@@ -87,7 +87,7 @@ QJsonValue writeRecord(const QObject* record, const QMetaObject& meta, int depth
     QJsonObject object;
     for (int i = QObject::staticMetaObject.propertyCount(); i < meta.propertyCount(); ++i) {
         const QMetaProperty property = meta.property(i);
-        const QJsonValue value = writeProperty(property, record, depth + 1);
+        QJsonValue value = writeProperty(property, record, depth + 1);
         if (value.isUndefined()) {
             return value;
         }

@@ -16,7 +16,7 @@ QJsonValue writeList(const QVector<QObject*>& records, const QMetaObject& meta, 
 {
     QJsonArray array;
     for (const QObject* record : records) {
-        const QJsonValue json = writeRecord(record, meta, depth);
+        QJsonValue json = writeRecord(record, meta, depth);
         if (json.isUndefined()) {
             return json;
         }

@@ -61,7 +61,7 @@ QSharedPointer<DataModel::MaterialPropertyData> MaterialPropertyText::read(const
     if (!isKind || !isFlag || !readComponents(fields.at(2), components)) {
         return {};
     }
-    const auto property = QSharedPointer<DataModel::MaterialPropertyData>::create();
+    auto property = QSharedPointer<DataModel::MaterialPropertyData>::create();
     property->label = fields.at(0);
     property->kind = kind;
     property->components = components;

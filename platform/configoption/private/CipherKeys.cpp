@@ -39,7 +39,7 @@ QByteArray readSecretFile(const QString& path)
 /// Empty when a secret is configured that cannot be had: falling back to the built-in one would then expose the text.
 QByteArray configuredSecret()
 {
-    const QByteArray secret = qgetenv("DATAMANAGER_CIPHER_KEY");
+    QByteArray secret = qgetenv("DATAMANAGER_CIPHER_KEY");
     if (!secret.isEmpty()) {
         return secret;
     }
