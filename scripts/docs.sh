@@ -6,6 +6,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 command -v doxygen >/dev/null 2>&1 || { echo "docs: install doxygen first" >&2; exit 1; }
+rm -rf build/doxygen
 mkdir -p build/doxygen
 doxygen docs/Doxyfile
 echo "docs: build/doxygen/html/index.html"

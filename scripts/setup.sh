@@ -12,7 +12,7 @@
 set -euo pipefail
 
 packages=(build-essential cmake ninja-build ccache git ca-certificates clang-format
-  qtbase5-dev qttools5-dev qttools5-dev-tools libvtk9-dev libvtk9-qt-dev libquazip1-qt5-dev
+  doxygen qtbase5-dev qttools5-dev qttools5-dev-tools libvtk9-dev libvtk9-qt-dev libquazip1-qt5-dev
   libssl-dev libfast-float-dev libbenchmark-dev gmsh xvfb
   strace attr e2fsprogs)
 headers_version=1.21.0

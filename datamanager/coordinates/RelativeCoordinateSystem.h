@@ -39,20 +39,29 @@ public:
 
     /// How many systems were constructed since the last `resetMaxID`; destruction and IDs have no influence.
     static int getMaxID();
+    /// The next construction counts as the first.
     static void resetMaxID();
 
+    /// The number by which the system is looked up.
     int getID() const;
+    /// Not checked for being taken. Chains that name the old one stay as they are.
     void setID(int id);
+    /// The ID of the system relative to which this one is defined.
     int getBasicCoordinateSystemID() const;
+    /// Not checked, not even for loops. The chains stay as they are.
     void setBasicCoordinateSystemID(int id);
+    /// The name for people; it may repeat.
     QString getName() const;
+    /// Any text, also an empty one.
     void setName(QString name);
 
     /// The axes actor drawn for this system, or null; not owned.
     BaseWidget::FixedPixelSizeAxesActor* getActor() const;
+    /// The actor must stay alive while it is set; null for none.
     void setActor(BaseWidget::FixedPixelSizeAxesActor* actor);
     /// The matrix that carries points given in this system into global coordinates, or null; not owned.
     vtkMatrix4x4* getActorMatrix() const;
+    /// The matrix must stay alive while it is set; null for none.
     void setActorMatrix(vtkMatrix4x4* matrix);
     /// The address of the four stored doubles, through which the caller may write.
     double* getActorQuaternion();
@@ -63,6 +72,7 @@ public:
     // happens. -1: when `ownerID` is 1 or more the chain is first replaced by that of the system `basicID` (kept when
     // there is none), then (ownerID, value) is appended. The cached results of the getters stay as they are.
 
+    /// How the coordinates of the system are measured.
     void setType(BaseModule::CoordinateSystemType type, int ownerID, int basicID, int modifyID);
     /// `offset` is the origin (x, y, z) in the owner's basic system; null changes nothing.
     void setOffsetCoordinate(double* offset, int ownerID, int basicID, int modifyID);
@@ -85,9 +95,13 @@ public:
     /// The (text, angle) steps of the chain, which are then cached.
     QList<QPair<QString, double>> getActorRotateDirection();
 
+    /// The chain of types as it is: (owner ID, type).
     QList<QPair<int, BaseModule::CoordinateSystemType>> getTypePairList() const;
+    /// The chain of offsets as it is: (owner ID, [x, y, z]).
     QList<QPair<int, QList<double>>> getOffsetCoordinateListPairList() const;
+    /// The chain of rotations as it is: (owner ID, angles about [x, y, z] in radians).
     QList<QPair<int, QList<double>>> getRotateDirectionListPairList() const;
+    /// The chain of rotation steps of the actor as it is: (owner ID, (text, angle)).
     QList<QPair<int, QPair<QString, double>>> getActorRoateDirPairPairList() const;
 
     /// A table of ID, basic system, name, cached origin and quaternion, owned by this system and rebuilt by each call.

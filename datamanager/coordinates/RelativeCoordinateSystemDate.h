@@ -29,10 +29,11 @@ public:
     /// The registry, created by the first call and never destroyed.
     static RelativeCoordinateSystemDate* getInstance();
 
-    /// Appends a system, which the registry then owns, and writes the file. Null, and a system that is registered
-    /// already, are not appended.
+    /// Appends a system, which the registry then owns, and writes the file (`writeConfig`, with its signal). Null, and
+    /// a system that is registered already, are not appended.
     void appendCoordinateSystem(RelativeCoordinateSystem* cs);
 
+    /// The number of systems, the global one included.
     int getRelativeCoordinateSystemDateCount() const;
     /// The first system with that ID, or null.
     RelativeCoordinateSystem* getCoordinateSystemByID(int id) const;
@@ -43,9 +44,9 @@ public:
     /// The position of that system, -1 when it is not registered.
     int getIndexByCoordinateSystem(RelativeCoordinateSystem* cs) const;
 
-    /// Takes every system with one of these IDs out, except ID 0, and writes the file. Before that it emits
-    /// `signal_dataDeleted` with the IDs as given, without 0. The systems are not destroyed: nobody owns them any more.
-    /// Does nothing at all when no ID is left.
+    /// Takes every system with one of these IDs out, except ID 0. Emits `signal_dataDeleted` with the IDs as given,
+    /// without 0, while all systems can still be looked up; then, without them, writes the file (`writeConfig`). The
+    /// systems are not destroyed: nobody owns them any more. Does nothing at all when no ID is left.
     void removeCoordinateSystemByID(QList<int> ids);
     /// Emits `signal_dataDeleted` with the ID of the system at that position, any of them, and destroys the system. The
     /// file is not written. A position that does not exist does nothing.
@@ -53,21 +54,25 @@ public:
     /// Emits `signal_dataDeleted` with all IDs but the first 0, also when none is left, and destroys every system
     /// except the one at position 0. The file is not written.
     void clear();
-    /// `clear`, then makes ID 0 current, restarts the count of `RelativeCoordinateSystem::getMaxID` and empties the
-    /// record that is written to the file. The file is not written.
+    /// `clear`, then makes ID 0 current, which emits `signal_dataChanged`, restarts the count of
+    /// `RelativeCoordinateSystem::getMaxID` and empties the record that is written to the file. The file is not
+    /// written.
     void resetData();
     /// Sorts the systems by their addresses. The file is not written.
     void sort();
 
     /// Stores the ID, whether such a system exists or not, and emits `signal_dataChanged` with all IDs.
     void setCurrentCoordinateSystemID(int id);
+    /// The ID that was stored last; 0 at the start.
     int getCurrentCoordinateSystemID() const;
 
     /// Whether a new system is being created, kept for the view.
     void setNeWCoordinateSystemSign(bool sign);
+    /// What was set last; false at the start.
     bool getNeWCoordinateSystemSign() const;
     /// Whether the current system is being switched, kept for the view.
     void setSwitchCoordinateSystemSign(bool sign);
+    /// What was set last; false at the start.
     bool getSwitchCoordinateSystemSign() const;
 
     /// Rebuilds the systems from "RelativeCoordinateSystemDate.json" in the project's working directory and appends

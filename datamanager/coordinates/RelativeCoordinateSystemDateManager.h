@@ -29,23 +29,33 @@ public:
     Q_INVOKABLE RelativeCoordinateSystemDateManager();
     ~RelativeCoordinateSystemDateManager() override;
 
+    /// The IDs of the systems.
     QList<int> getIDList() const;
+    /// Replaces the list; lengths are not compared, here and below.
     void setIDList(QList<int> list);
+    /// The IDs of their basic systems.
     QList<int> getBasicCoorSysIDList() const;
+    /// Replaces the list.
     void setBasicCoorSysIDList(QList<int> list);
+    /// Their names.
     QList<QString> getNameList() const;
+    /// Replaces the list.
     void setNameList(QList<QString> list);
     /// The chains as texts of `BaseModule::GlobalHelper`: (owner ID, type).
     QList<QString> getTypeList() const;
+    /// Replaces the list.
     void setTypeList(QList<QString> list);
     /// (owner ID, text of a list of doubles: x, y, z).
     QList<QString> getOffsetCoordinateList() const;
+    /// Replaces the list.
     void setOffsetCoordinateList(QList<QString> list);
     /// (owner ID, text of a list of doubles: about x, y, z).
     QList<QString> getRotateDirectionList() const;
+    /// Replaces the list.
     void setRotateDirectionList(QList<QString> list);
     /// (owner ID, text of a pair of a text and a double).
     QList<QString> getActorRoateDirList() const;
+    /// Replaces the list.
     void setActorRoateDirList(QList<QString> list);
 
     /// Empties every list except that of the basic systems.

@@ -64,11 +64,13 @@ public:
     /// failure.
     virtual bool load(const QString& filePath) = 0;
 
-    /// Issues the next identifier. No check for overflow or reuse.
+    /// Issues the next identifier for a component. No check for overflow or reuse.
     int generateComponentID();
+    /// Issues the next identifier for a set, likewise.
     int generateSetID();
-    /// The identifier issued last; 0 when none was.
+    /// The component's identifier issued last; 0 when none was.
     int getComponentMaxID();
+    /// The set's identifier issued last; 0 when none was.
     int getSetMaxID();
     /// The next component will be number 1.
     void resetComponentMaxID();

@@ -93,11 +93,13 @@ public:
     /// on failure.
     virtual bool load(const QString& filePath) = 0;
 
-    /// Issues the next identifier. No check for overflow or reuse.
+    /// Issues the next identifier for a kernel. No check for overflow or reuse.
     int generateKernelID();
+    /// Issues the next identifier for a set, likewise.
     int generateSetID();
-    /// The identifier issued last; 0 when none was.
+    /// The kernel's identifier issued last; 0 when none was.
     int getKernelMaxID();
+    /// The set's identifier issued last; 0 when none was.
     int getSetMaxID();
     /// The next kernel will be number 1.
     void resetKernelMaxID();

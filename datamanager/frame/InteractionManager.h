@@ -40,6 +40,8 @@ public:
     /// Forwarded key events of the view; null and auto-repeated ones are ignored. Shift translates and Alt rotates,
     /// also while drawing; Ctrl selects several objects, but not while drawing.
     void onKeyPress(QKeyEvent* event);
+    /// A released Shift or Alt restores the mode that the user chose, and so does Ctrl, but while drawing Ctrl only
+    /// ends multiple selection, without a signal. Null and auto-repeated events are ignored.
     void onKeyRelease(QKeyEvent* event);
 
 private:

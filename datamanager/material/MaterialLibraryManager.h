@@ -45,27 +45,29 @@ public:
     /// file could not be read and no copy of it can be kept, it stays.
     void clearProjectMaterial();
 
-    /// Add a material under the next identifier and save. Names are not checked: ask `hasSameName` before. The property
-    /// records may be null and are shared, not copied.
+    /// Adds a material to the project library under its next identifier and saves. Names are not checked: ask
+    /// `hasSameName` before. The property records may be null and are shared, not copied. Signals nothing.
     void createProjectMat(QString chineseName, QString englishName, QSharedPointer<DataModel::MaterialPropertyData> p1,
                           QSharedPointer<DataModel::MaterialPropertyData> p2,
                           QSharedPointer<DataModel::MaterialPropertyData> p3,
                           QSharedPointer<DataModel::MaterialPropertyData> p4,
                           QSharedPointer<DataModel::MaterialPropertyData> p5);
+    /// The same for the software library.
     void createSoftwareMat(QString chineseName, QString englishName, QSharedPointer<DataModel::MaterialPropertyData> p1,
                            QSharedPointer<DataModel::MaterialPropertyData> p2,
                            QSharedPointer<DataModel::MaterialPropertyData> p3,
                            QSharedPointer<DataModel::MaterialPropertyData> p4,
                            QSharedPointer<DataModel::MaterialPropertyData> p5);
 
-    /// Change a material, in the record that the library holds, and save. Nothing happens when `id` names no live
-    /// material.
+    /// Changes a material, in the record that the project library holds, and saves. Nothing happens when `id` names no
+    /// live material. Signals nothing.
     void updateProjectMat(int id, QString chineseName, QString englishName,
                           QSharedPointer<DataModel::MaterialPropertyData> p1,
                           QSharedPointer<DataModel::MaterialPropertyData> p2,
                           QSharedPointer<DataModel::MaterialPropertyData> p3,
                           QSharedPointer<DataModel::MaterialPropertyData> p4,
                           QSharedPointer<DataModel::MaterialPropertyData> p5);
+    /// The same for the software library.
     void updateSoftwareMat(int id, QString chineseName, QString englishName,
                            QSharedPointer<DataModel::MaterialPropertyData> p1,
                            QSharedPointer<DataModel::MaterialPropertyData> p2,
@@ -73,23 +75,27 @@ public:
                            QSharedPointer<DataModel::MaterialPropertyData> p4,
                            QSharedPointer<DataModel::MaterialPropertyData> p5);
 
-    /// Delete a material and save. The last material is removed together with the tombstones directly below it, any
-    /// other becomes a tombstone. `deleteProjectMat` emits `signal_delMatUpdateGeometryData` for the material, and
-    /// again for every tombstone removed with it. When `id` names no live material the user is told so and nothing
-    /// changes.
+    /// Deletes a material of the project library and saves. The last material is removed together with the tombstones
+    /// directly below it, any other becomes a tombstone. Emits `signal_delMatUpdateGeometryData` for the material, and
+    /// again for every tombstone removed with it, in descending order, before the file is written. When `id` names no
+    /// live material, `signal_showMessageType(2, text)` tells the user and nothing changes.
     void deleteProjectMat(int id);
+    /// The same for the software library, without `signal_delMatUpdateGeometryData`.
     void deleteSoftwareMat(int id);
 
-    /// The material under `id`, also when it is a tombstone; null if there is none.
+    /// The project material under `id`, also when it is a tombstone; null if there is none.
     QSharedPointer<DataModel::MaterialData> getProjectMatByID(int id);
+    /// The software material under `id`, likewise.
     QSharedPointer<DataModel::MaterialData> getSoftwareMatByID(int id);
-    /// The first material in ascending order of identifiers with this Chinese or English name, also when it is a
-    /// tombstone; null if there is none.
+    /// The first project material in ascending order of identifiers with this Chinese or English name, also when it is
+    /// a tombstone; null if there is none.
     QSharedPointer<DataModel::MaterialData> getProjectMatByName(QString name);
+    /// The first software material of this name, likewise.
     QSharedPointer<DataModel::MaterialData> getSoftwareMatByName(QString name);
 
-    /// Whether `id` names a live material.
+    /// Whether `id` names a live project material.
     bool hasProjectMatID(int id);
+    /// Whether `id` names a live software material.
     bool hasSoftwareMatID(int id);
 
     /// Whether a live material other than `id` has this Chinese or English name; for renaming. Also true for the
@@ -105,7 +111,8 @@ public:
 
     /// Copies materials of the library `fromType` into the other one, under new identifiers and in the order of `ids`,
     /// and saves that one. Names are not checked; property records are shared between source and copy. When the type is
-    /// unknown or an identifier names no live material, the user is told so, nothing is copied and the result is false.
+    /// unknown or an identifier names no live material, `signal_showMessageType(2, text)` tells the user, nothing is
+    /// copied and the result is false.
     bool importMaterial(BaseModule::MaterialLibType fromType, QList<int> ids);
     /// The same for every live material of the library.
     bool importAllMaterial(BaseModule::MaterialLibType fromType);

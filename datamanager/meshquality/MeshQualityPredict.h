@@ -40,7 +40,9 @@ public:
 
     /// No names, a history of ten zeros. The loaded model is shared by all instances, the node names are not.
     MeshQualityPredict();
+    /// A copy of names and history; the loaded model is shared anyway.
     MeshQualityPredict(const MeshQualityPredict&) = default;
+    /// Takes names and history over.
     MeshQualityPredict& operator=(const MeshQualityPredict&) = default;
     ~MeshQualityPredict() = default;
 

@@ -36,6 +36,7 @@ public:
         Shape,
         ShapeAndSize
     };
+    /// The number of metrics.
     static constexpr int metricCount = 11;
 
     /// The metric's name as in the enumeration.
@@ -59,9 +60,11 @@ public:
         WrongFormat,
         /// It holds no tetrahedron that could be read.
         NoTetrahedra,
+        /// The progress callback returned false.
         Cancelled
     };
 
+    /// Why a line was passed over.
     enum class SkipReason : int
     {
         /// A node line with fewer than four columns; the nodes after it move up by one.
@@ -73,14 +76,17 @@ public:
         MissingNode
     };
 
+    /// The number of reasons.
     static constexpr int skipReasonCount = 3;
     /// The reason for people, in English.
     static QString skipReasonText(SkipReason reason);
 
+    /// A line that was passed over.
     struct SkippedLine
     {
         /// From 1.
         qint64 line;
+        /// Why.
         SkipReason reason;
     };
     /// How many skipped lines are kept with their places.
@@ -89,6 +95,7 @@ public:
     /// Lines of one kind.
     struct Places
     {
+        /// How many there are.
         qint64 count = 0;
         /// From 1; 0 without lines.
         qint64 firstLine = 0;
@@ -98,15 +105,15 @@ public:
     /// standard deviation is that of the whole, with the count as divisor. All but `nonFinite` are NaN without values.
     struct Summary
     {
-        double minimum;
-        double percentile1;
-        double percentile5;
-        double median;
-        double percentile95;
-        double percentile99;
-        double maximum;
-        double mean;
-        double standardDeviation;
+        double minimum;           ///< smallest value
+        double percentile1;       ///< 1st percentile
+        double percentile5;       ///< 5th percentile
+        double median;            ///< 50th percentile
+        double percentile95;      ///< 95th percentile
+        double percentile99;      ///< 99th percentile
+        double maximum;           ///< largest value
+        double mean;              ///< arithmetic mean
+        double standardDeviation; ///< root mean square distance from the mean
         /// Elements whose value is infinite or no number; they count nowhere else.
         int nonFinite;
     };
@@ -114,20 +121,21 @@ public:
     /// Finite values by size, in bins of equal width from `lower` to `upper`; the last bin holds `upper`.
     struct Histogram
     {
-        double lower;
-        double upper;
-        std::vector<int> counts;
+        double lower;            ///< the smallest finite value, where the first bin begins
+        double upper;            ///< the largest finite value, where the last bin ends
+        std::vector<int> counts; ///< elements in each bin
     };
 
     /// The elements of one physical group.
     struct Region
     {
+        /// The number of the group.
         int physicalTag;
         /// Empty when the file does not name the group.
         QString name;
-        int elementCount;
-        int invertedCount;
-        int flatCount;
+        int elementCount;  ///< tetrahedra of the group
+        int invertedCount; ///< those with a negative volume
+        int flatCount;     ///< those with a volume of zero
         /// By metric.
         std::array<Summary, metricCount> summaries;
     };
@@ -139,6 +147,7 @@ public:
     /// why not, and there are no elements.
     bool measure(const QString& path, const Progress& progress = {});
 
+    /// Why the last measurement failed; None after a success and before the first one.
     Problem problem() const { return m_problem; }
     /// What is wrong, for people, in English; empty when nothing is.
     QString problemText() const { return m_problemText; }
@@ -149,14 +158,16 @@ public:
     qint64 nodeCount() const { return static_cast<qint64>(m_nodes.size()); }
     /// Tetrahedra measured. Their places in all lists below are those in the file.
     int elementCount() const { return static_cast<int>(m_tags.size()); }
-    /// Tetrahedra with a negative, and with a zero volume.
+    /// Tetrahedra with a negative volume.
     int invertedCount() const { return m_invertedCount; }
+    /// Tetrahedra with a volume of zero.
     int flatCount() const { return m_flatCount; }
     /// Tetrahedra that name a node twice. They hold no volume, but not all are counted as flat: where the products of
     /// their edges are rounded, what is left of the volume may have either sign.
     int duplicateNodeCount() const { return m_duplicateNodeCount; }
-    /// How many lines were passed over, in all and for one reason. Known also when there are no tetrahedra.
+    /// How many lines were passed over. Known also when there are no tetrahedra.
     qint64 skippedLineCount() const;
+    /// How many lines were passed over for this reason.
     qint64 skippedLineCount(SkipReason reason) const { return m_skipCounts[static_cast<std::size_t>(reason)]; }
     /// The first skippedLinesKept of them, in file order.
     const std::vector<SkippedLine>& skippedLines() const { return m_skippedLines; }
@@ -175,15 +186,21 @@ public:
 
     /// The metric's value of every element.
     const std::vector<double>& values(Metric metric) const { return m_values[static_cast<std::size_t>(metric)]; }
-    /// The element's number in the file, its physical group, and its line.
+    // `element` is a place from 0 to elementCount() - 1, which is not checked.
+
+    /// The element's number in the file.
     int tag(int element) const { return m_tags[static_cast<std::size_t>(element)]; }
+    /// The element's physical group.
     int physicalTag(int element) const { return m_physicalTags[static_cast<std::size_t>(element)]; }
+    /// The element's line in the file, from 1.
     qint64 line(int element) const { return m_lines[static_cast<std::size_t>(element)]; }
-    /// The places of the element's corners among the node lines read, from 0, and where a node lies.
+    /// The places of the element's corners among the node lines read, from 0.
     const std::array<int, 4>& corners(int element) const { return m_corners[static_cast<std::size_t>(element)]; }
+    /// Where a node lies: x, y, z in the unit of the file. `place` is from 0 to nodeCount() - 1, which is not checked.
     const std::array<double, 3>& node(qint64 place) const { return m_nodes[static_cast<std::size_t>(place)]; }
-    /// Centre of the element's corners.
+    /// Centre of the element's corners: x, y, z in the unit of the file.
     std::array<double, 3> centroid(int element) const { return m_centroids[static_cast<std::size_t>(element)]; }
+    /// How the values of a metric are spread over all elements.
     Summary summary(Metric metric) const;
     /// `bins` is at least 1. Empty counts where there is no finite value.
     Histogram histogram(Metric metric, int bins) const;

@@ -41,15 +41,18 @@ public:
 
     /// "0:1;3:2"; the empty text for an empty list.
     static QString convertIntIntQListToQString(QList<QPair<int, int>> list);
+    /// The list of such a text.
     static QList<QPair<int, int>> convertStringToIntIntQList(QString text);
 
     /// "0,0.5,-1e+300", each number in the shortest form that reads back to the same bits; the empty text for an empty
     /// list.
     static QString convertDoubleListToQString(QList<double> list);
+    /// The list of such a text.
     static QList<double> convertStringToDoubleList(QString text);
 
     /// "0:first;3:second"; the empty text for an empty list, "3:" for a list of one empty text.
     static QString convertIntQStringQListToQString(QList<QPair<int, QString>> list);
+    /// The list of such a text.
     static QList<QPair<int, QString>> convertStringToIntQStringQList(QString text);
 
     /// "RotateX,90": the text up to the last comma, then the number.

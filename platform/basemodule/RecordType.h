@@ -23,20 +23,24 @@ struct RecordType
     QVariant (*wrap)(const QVector<QObject*>& ownedRecord); ///< a value that takes ownership of the records
 };
 
+/// Makes a property type known under its meta-type number; a later call replaces an earlier one.
 BASEMODULE_EXPORT void registerRecordType(int typeID, const RecordType& type);
 
+/// The record that a value holds.
 template <class Record>
 QVector<QObject*> unwrapRecord(const QVariant& value)
 {
     return {value.value<QSharedPointer<Record>>().data()};
 }
 
+/// A value that owns the one record of the list.
 template <class Record>
 QVariant wrapRecord(const QVector<QObject*>& records)
 {
     return QVariant::fromValue(QSharedPointer<Record>(static_cast<Record*>(records.value(0))));
 }
 
+/// The records of the list that a value holds.
 template <class Record>
 QVector<QObject*> unwrapRecordList(const QVariant& value)
 {
@@ -47,6 +51,7 @@ QVector<QObject*> unwrapRecordList(const QVariant& value)
     return records;
 }
 
+/// A value that owns the records as a list.
 template <class Record>
 QVariant wrapRecordList(const QVector<QObject*>& records)
 {

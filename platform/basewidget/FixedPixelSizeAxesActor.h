@@ -19,20 +19,21 @@ namespace BaseWidget {
 class BASEWIDGET_EXPORT FixedPixelSizeAxesActor : public vtkAxesActor
 {
 public:
+    /// A new actor with one reference, to be given back by `Delete`.
     static FixedPixelSizeAxesActor* New();
     // clang-format off
     vtkTypeMacro(FixedPixelSizeAxesActor, vtkAxesActor)
         // clang-format on
+        /// Writes the size after what the base class writes.
         void PrintSelf(ostream& os, vtkIndent indent) override;
 
     FixedPixelSizeAxesActor(const FixedPixelSizeAxesActor&) = delete;
     FixedPixelSizeAxesActor& operator=(const FixedPixelSizeAxesActor&) = delete;
 
-    ///@{
-    /// The length on the screen, in pixels, of an axis that is parallel to it; 80 by default, at least 1.
+    /// Sets the length on the screen, in pixels, of an axis that is parallel to it; 80 by default, at least 1.
     vtkSetClampMacro(PixelSize, double, 1.0, VTK_DOUBLE_MAX);
+    /// The length on the screen, in pixels.
     vtkGetMacro(PixelSize, double);
-    ///@}
 
     /// The texts at the ends of the axes; "X", "Y" and "Z" by default.
     void SetLabels(const char* x, const char* y, const char* z);
@@ -42,6 +43,7 @@ public:
     /// while the renderer has no area.
     void Rescale(vtkRenderer* renderer);
 
+    /// Rescales the axes and draws them. The number of parts drawn, 0 when none was.
     int RenderOpaqueGeometry(vtkViewport* viewport) override;
 
     /// The box around the axes as they were drawn last, in world coordinates.

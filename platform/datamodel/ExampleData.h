@@ -31,14 +31,14 @@ public:
     Q_INVOKABLE ExampleData() = default;
     ~ExampleData() override = default;
 
-    QString chineseTitle;
-    QString englishTitle;
-    QString chineseDescription;
-    QString englishDescription;
-    QString chineseCategory; ///< the group under which the example is listed
-    QString englishCategory; ///< the group under which the example is listed
-    QString chineseProjectPath;
-    QString englishProjectPath;
+    QString chineseTitle;       ///< shown when the interface language is "Chinese"
+    QString englishTitle;       ///< shown when the interface language is not "Chinese"
+    QString chineseDescription; ///< one or two sentences about it
+    QString englishDescription; ///< one or two sentences about it
+    QString chineseCategory;    ///< the group under which the example is listed
+    QString englishCategory;    ///< the group under which the example is listed
+    QString chineseProjectPath; ///< the project to open
+    QString englishProjectPath; ///< the project to open
     QString chinesePicturePath; ///< empty when there is no picture
     QString englishPicturePath; ///< empty when there is no picture
 };

@@ -42,15 +42,15 @@ public:
                 QSharedPointer<MaterialPropertyData> p2, QSharedPointer<MaterialPropertyData> p3,
                 QSharedPointer<MaterialPropertyData> p4, QSharedPointer<MaterialPropertyData> p5);
 
-    QString chineseName; ///< shown when the interface language is "Chinese"
-    QString englishName; ///< shown otherwise
-    int id = 0;          ///< within its library
-    QSharedPointer<MaterialPropertyData> property1;
-    QSharedPointer<MaterialPropertyData> property2;
-    QSharedPointer<MaterialPropertyData> property3;
-    QSharedPointer<MaterialPropertyData> property4;
-    QSharedPointer<MaterialPropertyData> property5;
-    bool isDeleted = false; ///< a tombstone: the material is gone, its identifier stays taken
+    QString chineseName;                            ///< shown when the interface language is "Chinese"
+    QString englishName;                            ///< shown otherwise
+    int id = 0;                                     ///< within its library
+    QSharedPointer<MaterialPropertyData> property1; ///< first property record, or null
+    QSharedPointer<MaterialPropertyData> property2; ///< second property record, or null
+    QSharedPointer<MaterialPropertyData> property3; ///< third property record, or null
+    QSharedPointer<MaterialPropertyData> property4; ///< fourth property record, or null
+    QSharedPointer<MaterialPropertyData> property5; ///< fifth property record, or null
+    bool isDeleted = false;                         ///< a tombstone: the material is gone, its identifier stays taken
 };
 
 } // namespace DataModel

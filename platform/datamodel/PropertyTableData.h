@@ -20,6 +20,7 @@ public:
     /// Appends a row. `isEditable` tells the panel whether the value may be changed there.
     void appendRowKeyValue(QString key, QString value, bool isEditable);
 
+    /// The number of rows.
     int getRowCount() const;
     /// The key of a row counted from 0; an empty text when there is no such row.
     QString getRowKey(int row) const;
