@@ -5,6 +5,8 @@
 
 #include <cstdio>
 
+#include <QCoreApplication>
+
 namespace Console {
 
 namespace {
@@ -36,7 +38,8 @@ bool print(const QString& text)
 {
     if (isWritten && !write(stdout, text)) {
         isWritten = false;
-        printError(QStringLiteral("standard output"), QStringLiteral("cannot be written"));
+        printError(QCoreApplication::translate("console", "standard output"),
+                   QCoreApplication::translate("console", "cannot be written"));
     }
     return isWritten;
 }
@@ -58,8 +61,14 @@ void printError(const QString& subject, const QString& what)
 
 void printUsageError(const QString& what)
 {
-    const QString sentence = what.endsWith(QLatin1Char('.')) ? what.chopped(1) : what;
-    printError(sentence + QStringLiteral("; see %1 --help").arg(programName()));
+    const bool hasStop = what.endsWith(QLatin1Char('.')) || what.endsWith(QStringLiteral("。"));
+    const QString sentence = hasStop ? what.chopped(1) : what;
+    printError(sentence + QCoreApplication::translate("console", "; see %1 --help").arg(programName()));
+}
+
+void printLanguageError()
+{
+    printUsageError(QCoreApplication::translate("console", "--language takes 'English' or 'Chinese'"));
 }
 
 } // namespace Console

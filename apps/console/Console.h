@@ -22,5 +22,7 @@ void printError(const QString& what);
 void printError(const QString& subject, const QString& what);
 /// One line on standard error: "PROGRAM: WHAT", without a full stop, and where to find help.
 void printUsageError(const QString& what);
+/// The same for a language that there is not.
+void printLanguageError();
 
 } // namespace Console

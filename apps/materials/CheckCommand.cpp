@@ -8,6 +8,7 @@
 #include <materials/LibraryText.h>
 #include <materials/Options.h>
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -29,9 +30,9 @@ void report(const Options& options, const QString& path, const QVector<Fault>& f
 {
     QJsonArray list;
     for (const Fault& fault : faults) {
-        list.append(QJsonObject{{QStringLiteral("place"), fault.place}, {QStringLiteral("fault"), fault.what}});
+        list.append(QJsonObject{{QStringLiteral("place"), fault.place}, {QStringLiteral("fault"), fault.what.english}});
         if (!options.isJson) {
-            Console::print(QStringLiteral("%1: %2: %3\n").arg(path, fault.place, fault.what));
+            Console::print(QStringLiteral("%1: %2: %3\n").arg(path, fault.place, fault.what.translated));
         }
     }
     if (options.isJson) {
@@ -45,7 +46,7 @@ void report(const Options& options, const QString& path, const QVector<Fault>& f
 ExitCode runCheck(const Options& options)
 {
     if (options.operands.size() > 1) {
-        Console::printUsageError(QStringLiteral("check takes one file"));
+        Console::printUsageError(QCoreApplication::translate("materials", "check takes one file"));
         return UsageError;
     }
     QString path;

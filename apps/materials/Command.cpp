@@ -11,13 +11,14 @@
 #include <materials/ListCommand.h>
 #include <materials/Options.h>
 
+#include <QCoreApplication>
 #include <QHash>
 
 namespace Materials {
 
 namespace {
 
-const char* const helpText = R"(Material libraries.
+const char* const helpText = QT_TRANSLATE_NOOP("materials", R"(Material libraries.
 
   materials list   [--library L] [--json]
       The materials with their identifiers, deleted ones marked.
@@ -36,10 +37,11 @@ const char* const helpText = R"(Material libraries.
                 the default) or project:DIR (MaterialLibrary.json in DIR)
   --plain       project libraries are plain JSON, not enciphered
   --dry-run     only compare
+  --language L  the language of these texts: English (the default) or Chinese
 
 Exit codes: 0 ok, 1 faults found or a material is missing, 2 wrong call,
 3 a file or standard output cannot be read or written.
-)";
+)");
 
 ExitCode runNamedCommand(const QStringList& arguments)
 {
@@ -50,11 +52,11 @@ ExitCode runNamedCommand(const QStringList& arguments)
                                                                           {QStringLiteral("check"), runCheck}};
     const Options options = parseOptions(arguments);
     if (options.isHelp) {
-        Console::print(QString::fromUtf8(helpText));
+        Console::print(QCoreApplication::translate("materials", helpText));
         return Success;
     }
     if (!options.fault.isEmpty() || !commands.contains(options.command)) {
-        const QString unknown = QStringLiteral("unknown command '%1'").arg(options.command);
+        const QString unknown = QCoreApplication::translate("materials", "unknown command '%1'").arg(options.command);
         Console::printUsageError(options.fault.isEmpty() ? unknown : options.fault);
         return UsageError;
     }

@@ -9,6 +9,8 @@
 
 #include <QHash>
 
+#include <array>
+
 namespace Materials {
 
 namespace {
@@ -39,11 +41,12 @@ Comparison compare(const Material& source, const Material& target)
 
 } // namespace
 
-QString Comparison::word() const
+Console::Message Comparison::word() const
 {
-    static const QStringList words = {QStringLiteral("new"), QStringLiteral("same"), QStringLiteral("changed"),
-                                      QStringLiteral("refused")};
-    return words.at(state);
+    constexpr std::array<const char*, 4> words = {
+        QT_TRANSLATE_NOOP("materials", "new"), QT_TRANSLATE_NOOP("materials", "same"),
+        QT_TRANSLATE_NOOP("materials", "changed"), QT_TRANSLATE_NOOP("materials", "refused")};
+    return Console::makeMessage("materials", words[state]);
 }
 
 QList<Comparison> compareMaterials(const QList<Material>& sources, const QList<Material>& targets)

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <console/Message.h>
 #include <materials/Library.h>
 
 namespace Materials {
@@ -21,7 +22,7 @@ struct Comparison
     Material source;
     Material target; ///< the material of the other library; null for new and refused ones
 
-    QString word() const;
+    Console::Message word() const;
 };
 
 /// One comparison a live source material, in the order of `sources`.

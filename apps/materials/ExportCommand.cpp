@@ -12,6 +12,8 @@
 #include <basemodule/GlobalHelper.h>
 #include <datamodel/MaterialData.h>
 
+#include <QCoreApplication>
+
 namespace Materials {
 
 namespace {
@@ -53,7 +55,7 @@ ExitCode runExport(const Options& options)
         Console::print(QString::fromUtf8(bytes));
     } else if (!BaseModule::GlobalHelper::writeFile(options.output, bytes,
                                                     QIODevice::WriteOnly | QIODevice::Truncate)) {
-        Console::printError(QStringLiteral("%1: cannot be written").arg(options.output));
+        Console::printError(QCoreApplication::translate("materials", "%1: cannot be written").arg(options.output));
         return UnreadableInput;
     }
     return Success;

@@ -3,6 +3,7 @@
 
 #include <materials/ImportCommand.h>
 
+#include <console/Columns.h>
 #include <console/Console.h>
 #include <materials/Comparison.h>
 #include <materials/LibraryLog.h>
@@ -15,6 +16,7 @@
 #include <basemodule/GlobalHelper.h>
 #include <datamodel/MaterialData.h>
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -35,7 +37,7 @@ void readFile(const QString& path, Source& source)
 {
     QByteArray bytes;
     if (!BaseModule::GlobalHelper::readFile(path, bytes)) {
-        source.fault = QStringLiteral("%1: cannot be read").arg(path);
+        source.fault = QCoreApplication::translate("materials", "%1: cannot be read").arg(path);
     } else if (path.endsWith(QLatin1String(".json"))) {
         source.materials = readMaterialJson(path, bytes, source.fault);
     } else {
@@ -112,13 +114,13 @@ void report(const Options& options, const QList<Comparison>& comparisons)
     QJsonArray list;
     for (const Comparison& comparison : comparisons) {
         const DataModel::MaterialData& source = *comparison.source;
-        list.append(QJsonObject{{QStringLiteral("state"), comparison.word()},
+        list.append(QJsonObject{{QStringLiteral("state"), comparison.word().english},
                                 {QStringLiteral("id"), source.id},
                                 {QStringLiteral("englishName"), source.englishName},
                                 {QStringLiteral("chineseName"), source.chineseName}});
         if (!options.isJson) {
             Console::print(QStringLiteral("%1  %2  %3\n")
-                               .arg(comparison.word(), -7)
+                               .arg(Console::leftJustified(comparison.word().translated, 7))
                                .arg(source.englishName, -26)
                                .arg(source.chineseName));
         }
@@ -148,7 +150,7 @@ ExitCode copy(const Options& options, const Source& source, const QList<Comparis
 ExitCode runImport(const Options& options)
 {
     if (options.operands.isEmpty()) {
-        Console::printUsageError(QStringLiteral("import takes a library or a file"));
+        Console::printUsageError(QCoreApplication::translate("materials", "import takes a library or a file"));
         return UsageError;
     }
     const Source source = readSource(options);
@@ -161,7 +163,8 @@ ExitCode runImport(const Options& options)
     const QList<Comparison> comparisons =
         chosen(compareMaterials(source.materials, materialsOf(options.library)), options.operands.mid(1), missing);
     if (!missing.isEmpty()) {
-        Console::printError(QStringLiteral("%1 has no material '%2'").arg(options.operands.first(), missing));
+        Console::printError(
+            QCoreApplication::translate("materials", "%1 has no material '%2'").arg(options.operands.first(), missing));
         return CheckFailed;
     }
     report(options, comparisons);

@@ -11,6 +11,7 @@
 #include <basemodule/GlobalHelper.h>
 #include <datamodel/MaterialData.h>
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace Materials {
@@ -33,7 +34,7 @@ QString openLibrary(const LibraryName& name, bool isPlain, bool mayBeMissing)
 {
     GlobalConfig::setIsDevelop(isPlain);
     if (isProject(name) && !QFileInfo(name.directory).isDir()) {
-        return QStringLiteral("%1: no such directory").arg(name.directory);
+        return QCoreApplication::translate("materials", "%1: no such directory").arg(name.directory);
     }
     const bool isMissing = !QFileInfo::exists(name.path());
     if (!isMissing || !mayBeMissing) {

@@ -43,7 +43,7 @@ public:
     void finish(const QString& place)
     {
         if (m_isLastDeleted) {
-            m_faults.append({place, QStringLiteral("the last material is a tombstone")});
+            m_faults.append({place, fault(QT_TRANSLATE_NOOP("materials", "the last material is a tombstone"))});
         }
     }
 
@@ -53,14 +53,16 @@ private:
         const QString place = m_place + QStringLiteral(".id");
         const int expected = m_count + 1;
         if (!isIdentifier(value)) {
-            m_faults.append({place, QStringLiteral("is no identifier")});
+            m_faults.append({place, fault(QT_TRANSLATE_NOOP("materials", "is no identifier"))});
             return;
         }
         if (m_places.contains(value.toInt())) {
             const QString other = m_places.value(value.toInt());
-            m_faults.append({place, QStringLiteral("%1 is taken by %2").arg(value.toInt()).arg(other)});
+            m_faults.append({place, fault(QT_TRANSLATE_NOOP("materials", "%1 is taken by %2"),
+                                          {QString::number(value.toInt()), other})});
         } else if (value.toInt() != expected) {
-            m_faults.append({place, QStringLiteral("is %1, expected %2").arg(value.toInt()).arg(expected)});
+            m_faults.append({place, fault(QT_TRANSLATE_NOOP("materials", "is %1, expected %2"),
+                                          {QString::number(value.toInt()), QString::number(expected)})});
         }
         m_places.insert(value.toInt(), m_place);
     }
@@ -70,11 +72,12 @@ private:
         const QString place = m_place + QLatin1Char('.') + member;
         const QString name = material.value(member).toString();
         if (name.isEmpty()) {
-            m_faults.append({place, QStringLiteral("is empty")});
+            m_faults.append({place, fault(QT_TRANSLATE_NOOP("materials", "is empty"))});
         } else if (name == QLatin1String("Free Space") || name == QStringLiteral("自由空间")) {
-            m_faults.append({place, QStringLiteral("'%1' is reserved").arg(name)});
+            m_faults.append({place, fault(QT_TRANSLATE_NOOP("materials", "'%1' is reserved"), {name})});
         } else if (m_names.contains(name) && m_names.value(name) != m_place) {
-            m_faults.append({place, QStringLiteral("'%1' is also the name of %2").arg(name, m_names.value(name))});
+            m_faults.append({place, fault(QT_TRANSLATE_NOOP("materials", "'%1' is also the name of %2"),
+                                          {name, m_names.value(name)})});
         }
         m_names.insert(name, m_place);
     }
@@ -95,7 +98,7 @@ QVector<Fault> checkLibrary(const QJsonObject& root)
     LibraryChecker checker(faults);
     for (const QString& key : root.keys()) {
         if (key != QLatin1String("materialList")) {
-            faults.append({key, QStringLiteral("unknown member")});
+            faults.append({key, fault(QT_TRANSLATE_NOOP("materials", "unknown member"))});
         }
     }
     const QJsonArray materials = root.value(QStringLiteral("materialList")).toArray();
@@ -105,7 +108,7 @@ QVector<Fault> checkLibrary(const QJsonObject& root)
         if (materials.at(i).isObject()) {
             checker.check(place, materials.at(i).toObject());
         } else {
-            faults.append({place, QStringLiteral("is no material")});
+            faults.append({place, fault(QT_TRANSLATE_NOOP("materials", "is no material"))});
         }
     }
     checker.finish(place);

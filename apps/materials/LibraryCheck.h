@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <console/Message.h>
+
 #include <QJsonObject>
 #include <QString>
 #include <QVector>
@@ -13,7 +15,7 @@ namespace Materials {
 struct Fault
 {
     QString place; ///< a path from the root, such as "materialList[3].property2.components"
-    QString what;
+    Console::Message what;
 };
 
 /// Every fault of a library, in the order of the file. `root` holds the list "materialList".

@@ -6,6 +6,7 @@
 #include <basemodule/GlobalHelper.h>
 #include <configoption/TextCipher.h>
 
+#include <QCoreApplication>
 #include <QJsonDocument>
 
 namespace Materials {
@@ -32,13 +33,15 @@ LibraryText parseLibraryText(const QString& path, const QByteArray& json)
     QJsonParseError error = {};
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError) {
-        return faulty(QStringLiteral("%1:%2: no JSON: %3").arg(path, placeOf(json, error.offset), error.errorString()));
+        return faulty(QCoreApplication::translate("materials", "%1:%2: no JSON: %3")
+                          .arg(path, placeOf(json, error.offset), error.errorString()));
     }
     if (!document.isObject()) {
-        return faulty(QStringLiteral("%1:1:1: a JSON object is expected at the root").arg(path));
+        return faulty(
+            QCoreApplication::translate("materials", "%1:1:1: a JSON object is expected at the root").arg(path));
     }
     if (!document.object().value(QStringLiteral("materialList")).isArray()) {
-        return faulty(QStringLiteral("%1: the root has no list 'materialList'").arg(path));
+        return faulty(QCoreApplication::translate("materials", "%1: the root has no list 'materialList'").arg(path));
     }
     return {document.object(), {}};
 }
@@ -47,15 +50,16 @@ LibraryText readLibraryText(const QString& path, bool isEnciphered)
 {
     QByteArray bytes;
     if (!BaseModule::GlobalHelper::readFile(path, bytes)) {
-        return faulty(QStringLiteral("%1: cannot be read").arg(path));
+        return faulty(QCoreApplication::translate("materials", "%1: cannot be read").arg(path));
     }
     if (!isEnciphered) {
         return parseLibraryText(path, bytes);
     }
     const QString json = ConfigOption::TextCipher::getInstance()->decryptData_CBC(QString::fromUtf8(bytes));
     if (json.isEmpty()) {
-        return faulty(
-            QStringLiteral("%1: not enciphered with this key, or damaged; --plain reads plain JSON").arg(path));
+        return faulty(QCoreApplication::translate(
+                          "materials", "%1: not enciphered with this key, or damaged; --plain reads plain JSON")
+                          .arg(path));
     }
     return parseLibraryText(path, json.toUtf8());
 }

@@ -3,6 +3,7 @@
 
 #include <materials/ListCommand.h>
 
+#include <console/Columns.h>
 #include <console/Console.h>
 #include <materials/Library.h>
 #include <materials/MaterialJson.h>
@@ -10,6 +11,7 @@
 #include <materials/NumberText.h>
 #include <materials/Options.h>
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -33,7 +35,9 @@ QString lineOf(const DataModel::MaterialData& material)
     // The Chinese name stands behind the columns: its letters are wider than one.
     return QStringLiteral("%1  %2  %3  %4\n")
         .arg(material.id, 5)
-        .arg(material.isDeleted ? QStringLiteral("deleted") : QStringLiteral("live"), -7)
+        .arg(Console::leftJustified(material.isDeleted ? QCoreApplication::translate("materials", "deleted")
+                                                       : QCoreApplication::translate("materials", "live"),
+                                    7))
         .arg(material.englishName, -26)
         .arg(material.chineseName);
 }
@@ -54,7 +58,7 @@ void printMaterial(const DataModel::MaterialData& material)
     for (const auto member : propertyMembers) {
         const auto& property = material.*member;
         if (!property.isNull()) {
-            Console::print(QStringLiteral("  %1 (kind %2, flag %3)\n      %4\n      %5\n")
+            Console::print(QCoreApplication::translate("materials", "  %1 (kind %2, flag %3)\n      %4\n      %5\n")
                                .arg(property->label)
                                .arg(property->kind)
                                .arg(property->flag ? 1 : 0)
@@ -98,7 +102,7 @@ ExitCode runList(const Options& options)
 ExitCode runShow(const Options& options)
 {
     if (options.operands.size() != 1) {
-        Console::printUsageError(QStringLiteral("show takes one identifier or name"));
+        Console::printUsageError(QCoreApplication::translate("materials", "show takes one identifier or name"));
         return UsageError;
     }
     const QString fault = openLibrary(options.library, options.isPlain, false);
@@ -108,7 +112,7 @@ ExitCode runShow(const Options& options)
     }
     const Material material = findMaterial(materialsOf(options.library), options.operands.first());
     if (material.isNull()) {
-        Console::printError(QStringLiteral("the %1 library has no material '%2'")
+        Console::printError(QCoreApplication::translate("materials", "the %1 library has no material '%2'")
                                 .arg(options.library.text(), options.operands.first()));
         return CheckFailed;
     }

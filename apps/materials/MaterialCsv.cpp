@@ -9,6 +9,8 @@
 
 #include <datamodel/MaterialData.h>
 
+#include <QCoreApplication>
+
 namespace Materials {
 
 namespace {
@@ -50,35 +52,36 @@ QString readProperty(const QStringList& cells, DataModel::MaterialPropertyData& 
     property.label = cells.at(4);
     property.kind = cells.at(5).toInt(&isNumber);
     if (!isNumber) {
-        return QStringLiteral("kind '%1' is no whole number").arg(cells.at(5));
+        return QCoreApplication::translate("materials", "kind '%1' is no whole number").arg(cells.at(5));
     }
     for (int i = firstComponent; i < firstComponent + componentCount; ++i) {
         property.components.append(cells.at(i).toDouble(&isNumber));
         if (!isNumber) {
-            return QStringLiteral("%1 '%2' is no number").arg(head().at(i), cells.at(i));
+            return QCoreApplication::translate("materials", "%1 '%2' is no number").arg(head().at(i), cells.at(i));
         }
     }
     property.remark = cells.at(15);
     property.flag = cells.at(16) == QLatin1String("1");
     const bool isFlag = property.flag || cells.at(16) == QLatin1String("0");
-    return isFlag ? QString() : QStringLiteral("flag '%1' is neither 0 nor 1").arg(cells.at(16));
+    return isFlag ? QString()
+                  : QCoreApplication::translate("materials", "flag '%1' is neither 0 nor 1").arg(cells.at(16));
 }
 
 /// Empty when the row belongs to a material, which is then the last of the list.
 QString readRow(const QStringList& cells, QList<Material>& materials)
 {
     if (cells.size() != head().size()) {
-        return QStringLiteral("%1 cells, expected %2").arg(cells.size()).arg(head().size());
+        return QCoreApplication::translate("materials", "%1 cells, expected %2").arg(cells.size()).arg(head().size());
     }
     bool isIdentifier = false;
     bool isNumber = false;
     const int id = cells.at(0).toInt(&isIdentifier);
     const int number = cells.at(3).toInt(&isNumber);
     if (!isIdentifier) {
-        return QStringLiteral("id '%1' is no whole number").arg(cells.at(0));
+        return QCoreApplication::translate("materials", "id '%1' is no whole number").arg(cells.at(0));
     }
     if (!isNumber || number < 0 || number > propertyMembers.size()) {
-        return QStringLiteral("property '%1' is not 0 to 5").arg(cells.at(3));
+        return QCoreApplication::translate("materials", "property '%1' is not 0 to 5").arg(cells.at(3));
     }
     if (materials.isEmpty() || materials.last()->id != id) {
         materials.append(Material::create(id, cells.at(1), cells.at(2), nullptr, nullptr, nullptr, nullptr, nullptr));
@@ -104,7 +107,8 @@ QString writeMaterialCsv(const QList<Material>& materials, QString& fault)
                 continue;
             }
             if (property->components.size() != componentCount) {
-                fault = QStringLiteral("material %1, property %2: %3 components do not fit the nine columns of CSV")
+                fault = QCoreApplication::translate(
+                            "materials", "material %1, property %2: %3 components do not fit the nine columns of CSV")
                             .arg(material->id)
                             .arg(number)
                             .arg(property->components.size());
@@ -123,7 +127,8 @@ QList<Material> readMaterialCsv(const QString& path, const QString& text, QStrin
     QList<Material> materials;
     const QList<CsvRow> rows = parseCsv(text);
     if (rows.isEmpty() || rows.first().cells != head()) {
-        fault = QStringLiteral("%1:1: the head line is not '%2'").arg(path, head().join(QLatin1Char(',')));
+        fault = QCoreApplication::translate("materials", "%1:1: the head line is not '%2'")
+                    .arg(path, head().join(QLatin1Char(',')));
         return {};
     }
     for (int i = 1; i < rows.size(); ++i) {

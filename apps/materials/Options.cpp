@@ -3,6 +3,7 @@
 
 #include <materials/Options.h>
 
+#include <QCoreApplication>
 #include <QHash>
 
 namespace Materials {
@@ -29,12 +30,15 @@ bool setValue(Options& options, const QString& name, const QString& value)
 {
     if (name == QLatin1String("--library")) {
         if (!parseLibraryName(value, options.library)) {
-            options.fault = QStringLiteral("--library takes 'software' or 'project:DIR', not '%1'").arg(value);
+            options.fault =
+                QCoreApplication::translate("materials", "--library takes 'software' or 'project:DIR', not '%1'")
+                    .arg(value);
         }
     } else if (name == QLatin1String("--format")) {
         options.format = value;
         if (value != QLatin1String("csv") && value != QLatin1String("json")) {
-            options.fault = QStringLiteral("--format takes 'csv' or 'json', not '%1'").arg(value);
+            options.fault =
+                QCoreApplication::translate("materials", "--format takes 'csv' or 'json', not '%1'").arg(value);
         }
     } else if (name == QLatin1String("--output")) {
         options.output = value;
@@ -60,9 +64,9 @@ Options parseOptions(const QStringList& arguments)
         } else if (!setFlag(options, argument)) {
             const bool isLast = i + 1 == arguments.size();
             if (!setValue(options, argument, arguments.value(i + 1))) {
-                options.fault = QStringLiteral("unknown option '%1'").arg(argument);
+                options.fault = QCoreApplication::translate("materials", "unknown option '%1'").arg(argument);
             } else if (isLast) {
-                options.fault = QStringLiteral("%1 needs a value").arg(argument);
+                options.fault = QCoreApplication::translate("materials", "%1 needs a value").arg(argument);
             }
             ++i;
         }

@@ -32,19 +32,25 @@ void checkComponents(QVector<Fault>& faults, const QString& place, const QJsonAr
 {
     constexpr int componentCount = 9;
     if (components.size() != componentCount) {
-        faults.append({place, QStringLiteral("has %1 values, expected 9").arg(components.size())});
+        faults.append({place, fault(QT_TRANSLATE_NOOP("materials", "has %1 values, expected 9"),
+                                    {QString::number(components.size())})});
     }
     for (int i = 0; i < components.size(); ++i) {
         const QString element = QStringLiteral("%1[%2]").arg(place).arg(i);
         if (!isComponent(components.at(i))) {
-            faults.append({element, QStringLiteral("is no number")});
+            faults.append({element, fault(QT_TRANSLATE_NOOP("materials", "is no number"))});
         } else if (!isFinite(components.at(i))) {
-            faults.append({element, QStringLiteral("is %1").arg(components.at(i).toString())});
+            faults.append({element, fault(QT_TRANSLATE_NOOP("materials", "is %1"), {components.at(i).toString()})});
         }
     }
 }
 
 } // namespace
+
+Console::Message fault(const char* source, const QStringList& values)
+{
+    return Console::makeMessage("materials", source, values);
+}
 
 bool isIdentifier(const QJsonValue& value)
 {
@@ -57,20 +63,21 @@ void checkMembers(QVector<Fault>& faults, const QString& place, const QJsonObjec
 {
     for (const QString& key : record.keys()) {
         if (meta.indexOfProperty(key.toUtf8().constData()) < meta.propertyOffset()) {
-            faults.append({place + QLatin1Char('.') + key, QStringLiteral("unknown member")});
+            faults.append({place + QLatin1Char('.') + key, fault(QT_TRANSLATE_NOOP("materials", "unknown member"))});
         }
     }
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
         const QString name = QString::fromUtf8(meta.property(i).name());
         if (!record.contains(name)) {
-            faults.append({place + QLatin1Char('.') + name, QStringLiteral("is missing")});
+            faults.append({place + QLatin1Char('.') + name, fault(QT_TRANSLATE_NOOP("materials", "is missing"))});
             continue;
         }
         const int type = meta.property(i).userType();
         const QJsonValue value = record.value(name);
         if ((type == QMetaType::QString && !value.isString()) || (type == QMetaType::Bool && !value.isBool()) ||
             (type == qMetaTypeId<QList<double>>() && !value.isArray())) {
-            faults.append({place + QLatin1Char('.') + name, QStringLiteral("is of another type")});
+            faults.append(
+                {place + QLatin1Char('.') + name, fault(QT_TRANSLATE_NOOP("materials", "is of another type"))});
         }
     }
 }
@@ -81,13 +88,13 @@ void checkProperty(QVector<Fault>& faults, const QString& place, const QJsonValu
         return;
     }
     if (!property.isObject()) {
-        faults.append({place, QStringLiteral("is no property")});
+        faults.append({place, fault(QT_TRANSLATE_NOOP("materials", "is no property"))});
         return;
     }
     const QJsonObject record = property.toObject();
     checkMembers(faults, place, record, DataModel::MaterialPropertyData::staticMetaObject);
     if (!isIdentifier(record.value(QStringLiteral("kind")))) {
-        faults.append({place + QStringLiteral(".kind"), QStringLiteral("is no whole number")});
+        faults.append({place + QStringLiteral(".kind"), fault(QT_TRANSLATE_NOOP("materials", "is no whole number"))});
     }
     checkComponents(faults, place + QStringLiteral(".components"),
                     record.value(QStringLiteral("components")).toArray());

@@ -13,6 +13,9 @@ namespace Materials {
 /// A number without fraction that fits an `int`.
 bool isIdentifier(const QJsonValue& value);
 
+/// What is wrong, of a source text in the context "materials".
+Console::Message fault(const char* source, const QStringList& values = {});
+
 /// Members that the record does not have or lacks.
 void checkMembers(QVector<Fault>& faults, const QString& place, const QJsonObject& record, const QMetaObject& meta);
 

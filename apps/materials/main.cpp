@@ -4,6 +4,7 @@
 #include <materials/Command.h>
 
 #include <console/Console.h>
+#include <console/Translations.h>
 
 #include <QCoreApplication>
 
@@ -11,5 +12,11 @@ int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
     Console::setProgramName(QStringLiteral("materials"));
-    return Materials::runCommand(QCoreApplication::arguments());
+    QStringList arguments = QCoreApplication::arguments();
+    Console::Translations translations({QStringLiteral("datamanager"), QStringLiteral("tools")});
+    if (!translations.choose(arguments)) {
+        Console::printLanguageError();
+        return Materials::UsageError;
+    }
+    return Materials::runCommand(arguments);
 }

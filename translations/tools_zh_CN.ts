@@ -1,0 +1,273 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>console</name>
+    <message>
+        <source>standard output</source>
+        <translation>标准输出</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>无法写入</translation>
+    </message>
+    <message>
+        <source>; see %1 --help</source>
+        <translation>；用法参见 %1 --help</translation>
+    </message>
+    <message>
+        <source>--language takes &apos;English&apos; or &apos;Chinese&apos;</source>
+        <translation>--language 的值应为 &apos;English&apos; 或 &apos;Chinese&apos;</translation>
+    </message>
+</context>
+<context>
+    <name>materials</name>
+    <message>
+        <source>check takes one file</source>
+        <translation>check 只接受一个文件</translation>
+    </message>
+    <message>
+        <source>Material libraries.
+
+  materials list   [--library L] [--json]
+      The materials with their identifiers, deleted ones marked.
+  materials show   [--library L] [--json] ID|NAME
+      One material with all its values.
+  materials export [--library L] [--format csv|json] [--output FILE]
+      The live materials; CSV unless FILE ends in .json.
+  materials import [--library L] [--update] [--dry-run] [--json] SOURCE [ID|NAME...]
+      Compares the materials of SOURCE (a library as below, or a CSV or JSON
+      file), all or those named, with the library: new, same, changed, refused.
+      Then copies the new ones into it, and with --update the changed ones too.
+  materials check  [--library L] [--json] [FILE]
+      Names every fault of a library file with its place.
+
+  --library L   software (ConfigFiles/MaterialLibrary.json beside the program,
+                the default) or project:DIR (MaterialLibrary.json in DIR)
+  --plain       project libraries are plain JSON, not enciphered
+  --dry-run     only compare
+  --language L  the language of these texts: English (the default) or Chinese
+
+Exit codes: 0 ok, 1 faults found or a material is missing, 2 wrong call,
+3 a file or standard output cannot be read or written.
+</source>
+        <translation>材料库工具。
+
+  materials list   [--library 库] [--json]
+      列出材料及其编号，已删除的会标明。
+  materials show   [--library 库] [--json] 编号|名称
+      显示一个材料的全部数据。
+  materials export [--library 库] [--format csv|json] [--output 文件]
+      导出有效材料；文件名不以 .json 结尾时为 CSV 格式。
+  materials import [--library 库] [--update] [--dry-run] [--json] 来源 [编号|名称...]
+      将来源（如下所述的材料库，或 CSV、JSON 文件）中的全部或指定材料与材料库比较：
+      新增、相同、不同、拒绝。然后复制新增的材料；加 --update 时也更新不同的材料。
+  materials check  [--library 库] [--json] [文件]
+      指出材料库文件的每处错误及其位置。
+
+  --library 库  software（程序旁的 ConfigFiles/MaterialLibrary.json，默认）
+                或 project:目录（该目录中的 MaterialLibrary.json）
+  --plain       工程材料库为明文 JSON，未加密
+  --dry-run     只比较，不复制
+  --language L  这些文字的语言：English（默认）或 Chinese
+
+退出码：0 成功，1 发现错误或缺少材料，2 命令用法有误，
+3 文件无法读写，或标准输出无法写入。
+</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>未知命令“%1”</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>新增</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>相同</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>不同</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>拒绝</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written</source>
+        <translation>%1：无法写入</translation>
+    </message>
+    <message>
+        <source>%1: cannot be read</source>
+        <translation>%1：无法读取</translation>
+    </message>
+    <message>
+        <source>import takes a library or a file</source>
+        <translation>import 需要指定一个材料库或文件</translation>
+    </message>
+    <message>
+        <source>%1 has no material &apos;%2&apos;</source>
+        <translation>%1 中没有材料“%2”</translation>
+    </message>
+    <message>
+        <source>%1: no such directory</source>
+        <translation>%1：目录不存在</translation>
+    </message>
+    <message>
+        <source>the last material is a tombstone</source>
+        <translation>最后一个材料是已删除的占位记录</translation>
+    </message>
+    <message>
+        <source>is no identifier</source>
+        <translation>不是有效的编号</translation>
+    </message>
+    <message>
+        <source>%1 is taken by %2</source>
+        <translation>编号 %1 已被 %2 占用</translation>
+    </message>
+    <message>
+        <source>is %1, expected %2</source>
+        <translation>为 %1，应为 %2</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>为空</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is reserved</source>
+        <translation>“%1”是保留名称</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is also the name of %2</source>
+        <translation>“%1”与 %2 重名</translation>
+    </message>
+    <message>
+        <source>unknown member</source>
+        <translation>未知成员</translation>
+    </message>
+    <message>
+        <source>is no material</source>
+        <translation>不是材料记录</translation>
+    </message>
+    <message>
+        <source>%1:%2: no JSON: %3</source>
+        <translation>%1:%2：不是 JSON：%3</translation>
+    </message>
+    <message>
+        <source>%1:1:1: a JSON object is expected at the root</source>
+        <translation>%1:1:1：根元素应为 JSON 对象</translation>
+    </message>
+    <message>
+        <source>%1: the root has no list &apos;materialList&apos;</source>
+        <translation>%1：根对象中没有列表“materialList”</translation>
+    </message>
+    <message>
+        <source>%1: not enciphered with this key, or damaged; --plain reads plain JSON</source>
+        <translation>%1：不是用当前密钥加密的，或文件已损坏；明文 JSON 请用 --plain 读取</translation>
+    </message>
+    <message>
+        <source>deleted</source>
+        <translation>已删除</translation>
+    </message>
+    <message>
+        <source>live</source>
+        <translation>有效</translation>
+    </message>
+    <message>
+        <source>  %1 (kind %2, flag %3)
+      %4
+      %5
+</source>
+        <translation>  %1（类别 %2，标志 %3）
+      %4
+      %5
+</translation>
+    </message>
+    <message>
+        <source>show takes one identifier or name</source>
+        <translation>show 需要一个编号或名称</translation>
+    </message>
+    <message>
+        <source>the %1 library has no material &apos;%2&apos;</source>
+        <translation>材料库 %1 中没有材料“%2”</translation>
+    </message>
+    <message>
+        <source>kind &apos;%1&apos; is no whole number</source>
+        <translation>类别“%1”不是整数</translation>
+    </message>
+    <message>
+        <source>%1 &apos;%2&apos; is no number</source>
+        <translation>%1 的值“%2”不是数字</translation>
+    </message>
+    <message>
+        <source>flag &apos;%1&apos; is neither 0 nor 1</source>
+        <translation>标志“%1”既不是 0 也不是 1</translation>
+    </message>
+    <message>
+        <source>%1 cells, expected %2</source>
+        <translation>有 %1 个单元格，应为 %2 个</translation>
+    </message>
+    <message>
+        <source>id &apos;%1&apos; is no whole number</source>
+        <translation>编号“%1”不是整数</translation>
+    </message>
+    <message>
+        <source>property &apos;%1&apos; is not 0 to 5</source>
+        <translation>属性序号“%1”不在 0 到 5 之间</translation>
+    </message>
+    <message>
+        <source>material %1, property %2: %3 components do not fit the nine columns of CSV</source>
+        <translation>材料 %1 的属性 %2 有 %3 个分量，与 CSV 的九列不符</translation>
+    </message>
+    <message>
+        <source>%1:1: the head line is not &apos;%2&apos;</source>
+        <translation>%1:1：表头不是“%2”</translation>
+    </message>
+    <message>
+        <source>--library takes &apos;software&apos; or &apos;project:DIR&apos;, not &apos;%1&apos;</source>
+        <translation>--library 的值应为 &apos;software&apos; 或 &apos;project:目录&apos;，而不是“%1”</translation>
+    </message>
+    <message>
+        <source>--format takes &apos;csv&apos; or &apos;json&apos;, not &apos;%1&apos;</source>
+        <translation>--format 的值应为 &apos;csv&apos; 或 &apos;json&apos;，而不是“%1”</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos;</source>
+        <translation>未知选项“%1”</translation>
+    </message>
+    <message>
+        <source>%1 needs a value</source>
+        <translation>%1 需要一个值</translation>
+    </message>
+    <message>
+        <source>has %1 values, expected 9</source>
+        <translation>有 %1 个值，应为 9 个</translation>
+    </message>
+    <message>
+        <source>is no number</source>
+        <translation>不是数字</translation>
+    </message>
+    <message>
+        <source>is %1</source>
+        <translation>为 %1</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>缺失</translation>
+    </message>
+    <message>
+        <source>is of another type</source>
+        <translation>类型不符</translation>
+    </message>
+    <message>
+        <source>is no property</source>
+        <translation>不是属性记录</translation>
+    </message>
+    <message>
+        <source>is no whole number</source>
+        <translation>不是整数</translation>
+    </message>
+</context>
+</TS>
