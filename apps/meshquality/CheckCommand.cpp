@@ -76,7 +76,7 @@ ExitCode checkMesh(const QString& file, const Profile& profile)
     }
     const QString reasons = remarks.isEmpty() ? QString() : QStringLiteral(": ") + remarks.join(QStringLiteral(", "));
     Console::print(word(worst) + QLatin1Char(' ') + file + reasons + QLatin1Char('\n'));
-    return worst == Verdict::Fail ? ThresholdFailed : Success;
+    return worst == Verdict::Fail ? CheckFailed : Success;
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <console/Console.h>
 #include <meshquality/CheckCommand.h>
 #include <meshquality/CompareCommand.h>
+#include <meshquality/ModelCommand.h>
 #include <meshquality/PredictCommand.h>
 #include <meshquality/ReportCommand.h>
 
@@ -34,14 +35,17 @@ const char* const helpText =
       The built-in profile, with the source of each threshold.
   meshquality compare [--model FILE] A B
       Two meshes side by side, with what has improved and what has worsened.
+  meshquality model [--json] [FILE]
+      Whether a model can serve, and what it says about itself; without FILE the one beside the program.
   meshquality predict
       Scores ../temp/mesh.msh beside the program, as an application does, and
       prints the history of the last ten scores, oldest first.
   meshquality --help
   meshquality --version
 
-Exit codes: 0 ok, 1 a mesh fails its check, 2 wrong call or a result cannot be written,
-3 a mesh cannot be read, 4 the model cannot be used; of several the highest.
+Exit codes: 0 ok, 1 a mesh fails its check or a model does not meet the contract, 2 wrong call or a result
+cannot be written, 3 a mesh or the model to be judged cannot be read, 4 the model cannot be used for scores;
+of several the highest.
 )";
 
 ExitCode runNamedCommand(const QStringList& arguments)
@@ -64,6 +68,9 @@ ExitCode runNamedCommand(const QStringList& arguments)
     }
     if (command == QLatin1String("compare")) {
         return runCompare(rest);
+    }
+    if (command == QLatin1String("model")) {
+        return runModel(rest);
     }
     if (command == QLatin1String("predict")) {
         return runPredict(rest);

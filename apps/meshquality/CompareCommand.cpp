@@ -6,6 +6,7 @@
 #include <console/Console.h>
 #include <meshquality/MeshInput.h>
 #include <meshquality/ModelScore.h>
+#include <meshquality/ModelText.h>
 #include <meshquality/NumberText.h>
 #include <meshquality/ScoredMesh.h>
 
@@ -113,6 +114,23 @@ QString comparison(const ScoredMesh& a, const ScoredMesh& b)
     return text + line(QStringLiteral("score"), before, after, word(rating(before, after, false)));
 }
 
+/// Who gave the scores, and why they may say less; nothing when there are none.
+QString modelLines(const ScoredMesh& a, const ScoredMesh& b)
+{
+    if (!a.isScored || !b.isScored) {
+        return QString();
+    }
+    QString text = QStringLiteral("  model ") + printable(a.model->title()) + QLatin1Char('\n');
+    const auto warn = [&text](const char* name, const ScoredMesh& mesh) {
+        for (const DataManager::QualityModelCard::Excess& excess : excesses(mesh)) {
+            text += QStringLiteral("  warning: %1: %2\n").arg(QString::fromLatin1(name), excessText(excess));
+        }
+    };
+    warn("A", a);
+    warn("B", b);
+    return text;
+}
+
 ExitCode measure(const QString& file, ScoredMesh& mesh)
 {
     mesh.file = file;
@@ -120,9 +138,10 @@ ExitCode measure(const QString& file, ScoredMesh& mesh)
 }
 
 /// Meshes without a score are compared all the same.
-ExitCode score(const QString& modelFile, ScoredMesh& a, ScoredMesh& b)
+ExitCode score(const QString& modelFile, ModelScore& model, ScoredMesh& a, ScoredMesh& b)
 {
-    ModelScore model;
+    a.model = &model.card();
+    b.model = &model.card();
     a.isScored = model.load(modelFile) && model.score(a.report.features(), a.score);
     b.isScored = a.isScored && model.score(b.report.features(), b.score);
     if (!b.isScored) {
@@ -149,8 +168,9 @@ ExitCode runCompare(const QStringList& arguments)
     if (qMax(ofA, ofB) != Success) {
         return qMax(ofA, ofB);
     }
-    const ExitCode exitCode = score(parser.value(QStringLiteral("model")), a, b);
-    Console::print(comparison(a, b));
+    ModelScore model;
+    const ExitCode exitCode = score(parser.value(QStringLiteral("model")), model, a, b);
+    Console::print(comparison(a, b) + modelLines(a, b));
     return exitCode;
 }
 

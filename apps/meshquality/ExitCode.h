@@ -9,11 +9,11 @@ namespace MeshQuality {
 enum ExitCode : int
 {
     Success = 0,
-    /// At least one mesh fails a threshold.
-    ThresholdFailed = 1,
+    /// At least one mesh fails a threshold, or a model does not meet its contract.
+    CheckFailed = 1,
     /// The call is wrong, or a result cannot be written where it should go.
     UsageError = 2,
-    /// At least one mesh cannot be read.
+    /// At least one mesh, or the model that was to be judged, cannot be read.
     UnreadableInput = 3,
     /// The model cannot be loaded or run.
     ModelTrouble = 4

@@ -4,6 +4,7 @@
 #include <meshquality/HtmlReport.h>
 
 #include <meshquality/HtmlText.h>
+#include <meshquality/ModelText.h>
 #include <meshquality/RegionName.h>
 #include <meshquality/ReportOptions.h>
 #include <meshquality/ScoredMesh.h>
@@ -64,6 +65,18 @@ QString scoreText(const ScoredMesh& mesh)
     const double score = static_cast<double>(mesh.score);
     return QStringLiteral("<p><span class=\"score\">%1</span> score (0 worst, 1 best)</p>\n").arg(Html::number(score)) +
            (std::isnan(score) ? QStringLiteral("<p class=\"warning\">%1</p>\n").arg(noScoreText(mesh)) : QString());
+}
+
+QString modelText(const ScoredMesh& mesh)
+{
+    if (!mesh.isScored) {
+        return QString();
+    }
+    QString text = Html::element("p", QStringLiteral("Model ") + modelSentence(mesh)) + QLatin1Char('\n');
+    for (const DataManager::QualityModelCard::Excess& excess : excesses(mesh)) {
+        text += QStringLiteral("<p class=\"warning\">%1</p>\n").arg(Html::escaped(excessText(excess)));
+    }
+    return text;
 }
 
 QString conversion(const ScoredMesh& mesh)
@@ -196,9 +209,10 @@ void HtmlReport::write(const ScoredMesh& mesh)
 {
     if (m_file.isWritable()) {
         const QString text = QStringLiteral("<section>\n") + Html::element("h2", mesh.file) + QLatin1Char('\n') +
-                             scoreText(mesh) + conversion(mesh) + warnings(mesh) + counts(mesh.report) +
-                             features(mesh.report) + histograms(mesh.report) + worst(mesh.report, m_options) +
-                             regions(mesh.report, m_options.worstBy) + QStringLiteral("</section>\n");
+                             scoreText(mesh) + modelText(mesh) + conversion(mesh) + warnings(mesh) +
+                             counts(mesh.report) + features(mesh.report) + histograms(mesh.report) +
+                             worst(mesh.report, m_options) + regions(mesh.report, m_options.worstBy) +
+                             QStringLiteral("</section>\n");
         m_file.write(text.toUtf8());
     }
 }

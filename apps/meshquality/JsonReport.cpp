@@ -4,6 +4,7 @@
 #include <meshquality/JsonReport.h>
 
 #include <meshquality/JsonWriter.h>
+#include <meshquality/ModelText.h>
 #include <meshquality/ReportOptions.h>
 #include <meshquality/ScoredMesh.h>
 
@@ -41,6 +42,44 @@ void writeDoubts(const ScoredMesh& mesh, JsonWriter& json)
     json.beginArray();
     for (const QString& warning : report.warnings(mesh.file)) {
         json.value(warning);
+    }
+    json.endArray();
+}
+
+void writeModel(const ScoredMesh& mesh, JsonWriter& json)
+{
+    json.key(QStringLiteral("model"));
+    if (mesh.isScored) {
+        json.beginObject();
+        json.key(QStringLiteral("title"));
+        json.value(mesh.model->title());
+        for (const QString& key : {QStringLiteral("name"), QStringLiteral("version")}) {
+            json.key(key);
+            json.value(mesh.model->metadata().value(key));
+        }
+        json.endObject();
+    } else {
+        json.null();
+    }
+    json.key(QStringLiteral("explanation"));
+    json.value(scoreExplanation(mesh));
+}
+
+void writeExcesses(const ScoredMesh& mesh, JsonWriter& json)
+{
+    json.key(QStringLiteral("outsideOfTraining"));
+    json.beginArray();
+    for (const DataManager::QualityModelCard::Excess& excess : excesses(mesh)) {
+        json.beginObject();
+        json.key(QStringLiteral("feature"));
+        json.value(MeshQualityReport::metricName(excess.feature));
+        json.key(QStringLiteral("value"));
+        json.value(excess.value);
+        json.key(QStringLiteral("lowest"));
+        json.value(excess.range.lowest);
+        json.key(QStringLiteral("highest"));
+        json.value(excess.range.highest);
+        json.endObject();
     }
     json.endArray();
 }
@@ -180,6 +219,8 @@ void writeJson(const ScoredMesh& mesh, const ReportOptions& options, JsonWriter&
     writeRegions(mesh.report, json);
     writeWorst(mesh.report, options, json);
     writeDoubts(mesh, json);
+    writeModel(mesh, json);
+    writeExcesses(mesh, json);
     json.endObject();
 }
 

@@ -41,6 +41,12 @@ void JsonWriter::value(const QString& text)
     quote(text);
 }
 
+void JsonWriter::value(bool isTrue)
+{
+    startValue();
+    m_text += isTrue ? "true" : "false";
+}
+
 void JsonWriter::value(qint64 number)
 {
     startValue();
@@ -57,6 +63,12 @@ void JsonWriter::value(double number)
 {
     startValue();
     m_text += std::isfinite(number) ? shortestText(number) : QByteArray("null");
+}
+
+void JsonWriter::null()
+{
+    startValue();
+    m_text += "null";
 }
 
 void JsonWriter::startValue()

@@ -29,10 +29,13 @@ public:
     void key(const QString& name);
 
     void value(const QString& text);
+    void value(bool isTrue);
     void value(qint64 number);
     /// The shortest text that reads back as the same number; null where it is none or infinite.
     void value(float number);
     void value(double number);
+
+    void null();
 
     /// What has been written, with a line end.
     QByteArray text() const { return m_text + '\n'; }

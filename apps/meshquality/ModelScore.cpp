@@ -13,6 +13,7 @@
 namespace MeshQuality {
 
 using DataManager::MeshQualityPredict;
+using DataManager::QualityModelCard;
 
 QString ModelScore::defaultModel()
 {
@@ -25,7 +26,9 @@ bool ModelScore::attempt(Action action)
     try {
         action();
     } catch (const std::exception& error) {
-        m_errorText = QString::fromUtf8(error.what());
+        // Where the contract is not met, that says more than what the runtime made of it.
+        m_errorText = m_card.violations().isEmpty() ? QString::fromUtf8(error.what())
+                                                    : m_card.violations().join(QStringLiteral("; "));
         return false;
     }
     return true;
@@ -33,9 +36,14 @@ bool ModelScore::attempt(Action action)
 
 bool ModelScore::load(const QString& path)
 {
+    if (!m_card.read(path) || !m_card.takesOurFeatures()) {
+        m_errorText = m_card.problemText() + m_card.violations().join(QStringLiteral("; "));
+        return false;
+    }
     return attempt([&path] {
         MeshQualityPredict* predictor = MeshQualityPredict::getinstance();
-        predictor->loadModel(QFile::encodeName(path).constData(), "onnx::Gemm_0", "19");
+        predictor->loadModel(QFile::encodeName(path).constData(), QualityModelCard::inputName,
+                             QualityModelCard::outputName);
         predictor->setFigureParameter(11);
     });
 }

@@ -66,6 +66,7 @@ private:
     /// A mesh without a score is reported all the same.
     ExitCode score(ScoredMesh& mesh)
     {
+        mesh.model = m_isModelLoaded ? &m_model.card() : nullptr;
         mesh.isScored = m_isModelLoaded && m_model.score(mesh.report.features(), mesh.score);
         return m_isModelLoaded && !mesh.isScored ? modelTrouble() : Success;
     }

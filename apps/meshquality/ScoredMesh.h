@@ -7,6 +7,10 @@
 
 #include <limits>
 
+namespace DataManager {
+class QualityModelCard;
+}
+
 namespace MeshQuality {
 
 /// A mesh that has been measured, and scored if the model could be used.
@@ -17,6 +21,8 @@ struct ScoredMesh
     /// the conversion. Otherwise empty.
     QString convertedFrom;
     DataManager::MeshQualityReport report;
+    /// The model, while there is one that could be loaded; belongs to who loaded it.
+    const DataManager::QualityModelCard* model = nullptr;
     bool isScored = false;
     /// NaN also when there is none.
     float score = std::numeric_limits<float>::quiet_NaN();

@@ -3,6 +3,7 @@
 
 #include <meshquality/TextReport.h>
 
+#include <meshquality/ModelText.h>
 #include <meshquality/NumberText.h>
 #include <meshquality/ScoredMesh.h>
 
@@ -181,12 +182,25 @@ QString score(const ScoredMesh& mesh)
                             : QStringLiteral(": there is none, because the model gives no number for these means\n"));
 }
 
+/// Who gave the score, what it says, and why it may say less.
+QString model(const ScoredMesh& mesh)
+{
+    if (!mesh.isScored) {
+        return QString();
+    }
+    QString text = QStringLiteral("  model ") + modelSentence(mesh) + QLatin1Char('\n');
+    for (const DataManager::QualityModelCard::Excess& excess : excesses(mesh)) {
+        text += QStringLiteral("  warning: ") + excessText(excess) + QLatin1Char('\n');
+    }
+    return text;
+}
+
 } // namespace
 
 QString textReport(const ScoredMesh& mesh)
 {
     return mesh.file + QLatin1Char('\n') + conversion(mesh) + counts(mesh.report) + skippedLines(mesh.report) +
-           features(mesh.report) + score(mesh);
+           features(mesh.report) + score(mesh) + model(mesh);
 }
 
 } // namespace MeshQuality

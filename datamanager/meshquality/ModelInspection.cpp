@@ -7,7 +7,9 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace DataManager {
 
@@ -131,19 +133,16 @@ public:
 
     void tryOut()
     {
-        Features zeros{};
+        const Features zeros{};
         Features notANumber{};
         notANumber.fill(std::numeric_limits<float>::quiet_NaN());
         try {
-            m_result.trial.ordinary = run(ordinaryFeatures);
-            m_result.trial.zeros = run(zeros);
-            m_result.trial.notANumber = run(notANumber);
-            m_result.isTried = true;
+            m_result.trial = {run(ordinaryFeatures), run(zeros), run(notANumber)};
         } catch (const std::exception& error) {
             add(QStringLiteral("expected the model to run, found: ") + text(error));
             return;
         }
-        if (std::isnan(m_result.trial.ordinary)) {
+        if (std::isnan(m_result.trial->ordinary)) {
             add(QStringLiteral("expected a number as the score of ordinary features, found NaN"));
         }
     }

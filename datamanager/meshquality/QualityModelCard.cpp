@@ -94,9 +94,12 @@ bool QualityModelCard::read(const QString& path)
     if (!QFile(path).open(QIODevice::ReadOnly)) {
         return fail(Problem::Unreadable, QStringLiteral("cannot be read"));
     }
+    if (file.size() == 0) {
+        return fail(Problem::NoModel, QStringLiteral("is empty"));
+    }
     const ModelInspection inspection = inspectModel(path);
     if (!inspection.loadError.isEmpty()) {
-        return fail(Problem::NoModel, inspection.loadError);
+        return fail(Problem::NoModel, QStringLiteral("no ONNX model: ") + inspection.loadError);
     }
     m_problem = Problem::None;
     m_fileName = file.fileName();
@@ -105,7 +108,7 @@ bool QualityModelCard::read(const QString& path)
     m_metadata = inspection.metadata;
     takeFeatureOrder();
     takeTrainingRanges();
-    if (inspection.isTried) {
+    if (m_trial) {
         remarkOnTrial();
     }
     remarkOnMissingKeys();
@@ -200,14 +203,14 @@ void QualityModelCard::remarkOnTrial()
     const auto remark = [this](const char* what, float score) {
         m_remarks.append(QString::fromLatin1(what).arg(threeDigits(static_cast<double>(score))));
     };
-    if (m_trial.ordinary < 0.0F || m_trial.ordinary > 1.0F) {
-        remark("the score of ordinary features is %1; programs take it as the nearest of 0 and 1", m_trial.ordinary);
+    if (m_trial->ordinary < 0.0F || m_trial->ordinary > 1.0F) {
+        remark("the score of ordinary features is %1; programs take it as the nearest of 0 and 1", m_trial->ordinary);
     }
-    if (m_trial.zeros != 0.0F) {
-        remark("the score of zeros, as without a mesh, is %1 and not 0", m_trial.zeros);
+    if (m_trial->zeros != 0.0F) {
+        remark("the score of zeros, as without a mesh, is %1 and not 0", m_trial->zeros);
     }
-    if (!std::isnan(m_trial.notANumber)) {
-        remark("the score of features that are no numbers is %1 and not NaN", m_trial.notANumber);
+    if (!std::isnan(m_trial->notANumber)) {
+        remark("the score of features that are no numbers is %1 and not NaN", m_trial->notANumber);
     }
 }
 

@@ -10,7 +10,6 @@
 #include <QStringList>
 
 #include <array>
-#include <limits>
 #include <optional>
 #include <vector>
 
@@ -63,15 +62,15 @@ public:
         Range range;
     };
 
-    /// What the model gives, not clamped, where it can be run; otherwise NaN.
+    /// What the model gives, not clamped.
     struct Trial
     {
         /// For features as an ordinary mesh has them.
-        float ordinary = std::numeric_limits<float>::quiet_NaN();
+        float ordinary;
         /// For zeros, as without a mesh; 0 in a model that knows this case.
-        float zeros = std::numeric_limits<float>::quiet_NaN();
+        float zeros;
         /// For features that all are NaN; NaN in a model that knows this case.
-        float notANumber = std::numeric_limits<float>::quiet_NaN();
+        float notANumber;
     };
 
     /// Reads and tries a file, in place of what was read before. True when it is a model, whether or not it meets the
@@ -87,7 +86,8 @@ public:
     /// What is no violation and yet to be known, one line each: what the model makes of zeros and of NaN, scores
     /// outside of [0, 1], metadata that are missing or cannot be read.
     QStringList remarks() const { return m_remarks; }
-    Trial trial() const { return m_trial; }
+    /// None where a violation is in the way.
+    const std::optional<Trial>& trial() const { return m_trial; }
 
     /// What the file says about itself, by key.
     const QMap<QString, QString>& metadata() const { return m_metadata; }
@@ -123,7 +123,7 @@ private:
     QString m_fileName;
     QStringList m_violations;
     QStringList m_remarks;
-    Trial m_trial;
+    std::optional<Trial> m_trial;
     QMap<QString, QString> m_metadata;
     bool m_takesOurFeatures = true;
     std::array<std::optional<Range>, MeshQualityReport::metricCount> m_trainingRanges;

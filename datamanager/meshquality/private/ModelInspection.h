@@ -14,9 +14,8 @@ struct ModelInspection
     QString loadError;
     QMap<QString, QString> metadata;
     QStringList violations;
-    /// Whether the trial was run to its end.
-    bool isTried = false;
-    QualityModelCard::Trial trial;
+    /// None where a violation is in the way.
+    std::optional<QualityModelCard::Trial> trial;
 };
 
 /// Loads, looks at and runs a model. Nothing is thrown.

@@ -48,3 +48,30 @@ weighted_sum("double-input", [0.1] * 11, numpy.float64, input_type=TensorProto.D
 weighted_sum("rank-one-input", [0.1] * 11, input_shape=(11,), output_shape=(1,))
 weighted_sum("other-input-name", [0.1] * 11, input_name="input")
 weighted_sum("other-output-name", [0.1] * 11, output_name="output")
+weighted_sum("any-batch", [0.01] * 11, input_shape=("batch", 11), output_shape=("batch", 1))
+weighted_sum("two-rows", [0.01] * 11, input_shape=(2, 11), output_shape=(2, 1))
+
+
+def several(name, nodes, inputs, outputs):
+    """A model of any inputs and outputs, each as (name, shape) or as a value that ONNX describes otherwise."""
+    values = [[helper.make_tensor_value_info(value[0], TensorProto.FLOAT, value[1]) if isinstance(value, tuple)
+               else value for value in side] for side in (inputs, outputs)]
+    model = helper.make_model(helper.make_graph(nodes, name, *values), opset_imports=[helper.make_opsetid("", 13)],
+                              producer_name="make_models.py")
+    model.ir_version = 7
+    save(model, str(HERE / f"{name}.onnx"))
+
+
+several("two-inputs", [helper.make_node("Add", [INPUT, "more"], [OUTPUT])],
+        [(INPUT, (1, 11)), ("more", (1, 11))], [(OUTPUT, (1, 11))])
+several("two-outputs", [helper.make_node("Sigmoid", [INPUT], ["first"]), helper.make_node("Tanh", [INPUT], [OUTPUT])],
+        [(INPUT, (1, 11))], [("first", (1, 11)), (OUTPUT, (1, 11))])
+several("list-output", [helper.make_node("SequenceConstruct", [INPUT], [OUTPUT])], [(INPUT, (1, 11))],
+        [helper.make_tensor_sequence_value_info(OUTPUT, TensorProto.FLOAT, None)])
+# Empty only when it is run: the features that are above 1e30.
+several("empty-when-run", [helper.make_node("Constant", [], ["limit"], value_float=1e30),
+                           helper.make_node("Constant", [], ["flat"], value_ints=[-1]),
+                           helper.make_node("Greater", [INPUT, "limit"], ["large"]),
+                           helper.make_node("Reshape", ["large", "flat"], ["flags"]),
+                           helper.make_node("Compress", [INPUT, "flags"], [OUTPUT])],
+        [(INPUT, (1, 11))], [(OUTPUT, ("size",))])
