@@ -99,6 +99,9 @@ public:
         const QString expected = QString::fromLatin1(QualityModelCard::inputName);
         if (names != QStringList{expected}) {
             add(QStringLiteral("expected one input '%1', found %2").arg(expected, quoted(names)));
+        }
+        // Under another name it is the one that was meant.
+        if (names.size() != 1) {
             return;
         }
         const Tensor input(m_session.GetInputTypeInfo(0));
@@ -121,9 +124,11 @@ public:
         const int place = names.indexOf(expected);
         if (place < 0) {
             add(QStringLiteral("expected an output '%1', found %2").arg(expected, quoted(names)));
+        }
+        if (place < 0 && names.size() != 1) {
             return;
         }
-        const Tensor output(m_session.GetOutputTypeInfo(static_cast<std::size_t>(place)));
+        const Tensor output(m_session.GetOutputTypeInfo(static_cast<std::size_t>(qMax(0, place))));
         add(output.typeViolation(QStringLiteral("the output")));
         if (std::count(output.shape.begin(), output.shape.end(), 0) > 0) {
             add(QStringLiteral("expected an output of at least one value, found the shape %1")

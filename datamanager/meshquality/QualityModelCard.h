@@ -27,14 +27,16 @@ namespace DataManager {
 class DATAMANAGER_EXPORT QualityModelCard
 {
 public:
+    /// The names of the input and of the output in the graph.
     static constexpr const char* inputName = "onnx::Gemm_0";
-    static constexpr const char* outputName = "19";
+    static constexpr const char* outputName = "19"; ///< Likewise.
+    /// In the order of MeshQualityReport::Metric.
     using Features = std::array<float, MeshQualityReport::metricCount>;
 
     /// Why there is no card.
     enum class Problem : int
     {
-        None,
+        None, ///< There is a card.
         /// Nothing was read so far.
         NotRead,
         /// There is no such file.
@@ -50,16 +52,16 @@ public:
     /// Bounds of a feature in the data that the model was trained on.
     struct Range
     {
-        double lowest;
-        double highest;
+        double lowest;  ///< Least value.
+        double highest; ///< Greatest value.
     };
 
     /// A feature outside of its range.
     struct Excess
     {
-        MeshQualityReport::Metric feature;
-        double value;
-        Range range;
+        MeshQualityReport::Metric feature; ///< Which one.
+        double value;                      ///< Its mean over the mesh.
+        Range range;                       ///< What it was in training.
     };
 
     /// What the model gives, not clamped.
@@ -77,6 +79,7 @@ public:
     /// contract; otherwise problem() tells why not, and everything below is empty.
     bool read(const QString& path);
 
+    /// Why there is no card.
     Problem problem() const { return m_problem; }
     /// What is wrong, in one line; empty when nothing is.
     QString problemText() const { return m_problemText; }

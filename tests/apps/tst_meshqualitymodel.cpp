@@ -197,7 +197,7 @@ void MeshQualityModelTest::writesJson_data()
                                << QByteArray(R"("title":"last 3.1","meetsContract":true,"violations":[],"remarks":[],)"
                                              R"("scores":{"ordinary":0.45,"zeros":0,"notANumber":null},)"
                                              R"("trainingRanges":{"Shape":[0.5,0.9]},"metadata":{"name":"last",)"
-                                             R"("version":"3.1","meaning":"the last\nfeature",)")
+                                             R"("version":"3.1","meaning":"the last\u000afeature",)")
                                << 0;
     QTest::newRow("bare") << ScratchFiles::model("other-input-name")
                           << QByteArray(R"("title":"other-input-name.onnx","meetsContract":false,)"

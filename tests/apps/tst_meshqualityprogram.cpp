@@ -143,13 +143,14 @@ void MeshQualityProgramTest::listsOptionsAndExitCodes()
     for (const char* name : {"json", "jsonl", "csv", "vtu", "html", "worst", "by", "histogram", "by-region", "model"}) {
         QVERIFY2(options.contains(QString::fromLatin1(name)), name);
     }
-    for (const char* call :
-         {"check [--profile FILE] MESH...", "check --print-profile", "compare [--model FILE] A B", "predict"}) {
+    for (const char* call : {"check [--profile FILE] MESH...", "check --print-profile", "compare [--model FILE] A B",
+                             "model [--json] [FILE]", "predict"}) {
         QVERIFY2(help.contains(QStringLiteral("  meshquality ") + QString::fromLatin1(call)), call);
     }
     QVERIFY(help.simplified().endsWith(
-        QStringLiteral("Exit codes: 0 ok, 1 a mesh fails its check, 2 wrong call or a result cannot be written, 3 a "
-                       "mesh cannot be read, 4 the model cannot be used; of several the highest.")));
+        QStringLiteral("Exit codes: 0 ok, 1 a mesh fails its check or a model does not meet the contract, 2 wrong call "
+                       "or a result cannot be written, 3 a mesh or the model to be judged cannot be read, 4 the model "
+                       "cannot be used for scores; of several the highest.")));
 }
 
 void MeshQualityProgramTest::tellsThatOutputIsLost_data()

@@ -183,6 +183,12 @@ void QualityModelCardTest::namesViolations_data()
     row("five-inputs", {"expected an input of shape [1, 11] or [any, 11], found [1, 5]"});
     row("rank-one-input", {"expected an input of shape [1, 11] or [any, 11], found [11]"});
     row("two-rows", {"expected an input of shape [1, 11] or [any, 11], found [2, 11]"});
+    row("all-wrong",
+        {"expected one input 'onnx::Gemm_0', found 'input'",
+         "expected the input to be a tensor of float, found one of double",
+         "expected an input of shape [1, 11] or [any, 11], found [1, 5]", "expected an output '19', found 'output'",
+         "expected the output to be a tensor of float, found one of double"});
+    row("other-outputs", {"expected an output '19', found 'a', 'b'"});
     row("empty-output", {"expected an output of at least one value, found the shape [0]"});
     row("empty-when-run", {"expected the model to run, found: The model's output is no tensor of at least one float"});
     row("not-a-number", {"expected a number as the score of ordinary features, found NaN"});

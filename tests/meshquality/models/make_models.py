@@ -48,6 +48,8 @@ weighted_sum("double-input", [0.1] * 11, numpy.float64, input_type=TensorProto.D
 weighted_sum("rank-one-input", [0.1] * 11, input_shape=(11,), output_shape=(1,))
 weighted_sum("other-input-name", [0.1] * 11, input_name="input")
 weighted_sum("other-output-name", [0.1] * 11, output_name="output")
+weighted_sum("all-wrong", [0.01] * 5, numpy.float64, input_shape=(1, 5), input_type=TensorProto.DOUBLE,
+             output_type=TensorProto.DOUBLE, input_name="input", output_name="output")
 weighted_sum("any-batch", [0.01] * 11, input_shape=("batch", 11), output_shape=("batch", 1))
 weighted_sum("two-rows", [0.01] * 11, input_shape=(2, 11), output_shape=(2, 1))
 
@@ -75,3 +77,5 @@ several("empty-when-run", [helper.make_node("Constant", [], ["limit"], value_flo
                            helper.make_node("Reshape", ["large", "flat"], ["flags"]),
                            helper.make_node("Compress", [INPUT, "flags"], [OUTPUT])],
         [(INPUT, (1, 11))], [(OUTPUT, ("size",))])
+several("other-outputs", [helper.make_node("Sigmoid", [INPUT], ["a"]), helper.make_node("Tanh", [INPUT], ["b"])],
+        [(INPUT, (1, 11))], [("a", (1, 11)), ("b", (1, 11))])
