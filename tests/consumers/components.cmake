@@ -43,7 +43,9 @@ endforeach()
 if(rest)
   message(FATAL_ERROR "without a component: ${rest}")
 endif()
-foreach(tool IN ITEMS bin/meshquality bin/materials bin/ConfigFiles/MaterialLibrary.json mesher/mesh.onnx samples/slivers.msh)
+foreach(tool IN ITEMS bin/meshquality bin/materials share/man/man1/meshquality.1 share/man/man1/materials.1
+    share/bash-completion/completions/meshquality share/bash-completion/completions/materials
+    bin/ConfigFiles/MaterialLibrary.json mesher/mesh.onnx samples/slivers.msh)
   if(NOT tool IN_LIST tools)
     message(FATAL_ERROR "not among the tools: ${tool}")
   endif()

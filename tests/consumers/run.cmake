@@ -15,7 +15,10 @@ endfunction()
 file(REMOVE_RECURSE "${work}")
 if(install_from)
   run("${CMAKE_COMMAND}" --install "${install_from}" --prefix "${work}/prefix")
-  list(APPEND options "-DCMAKE_PREFIX_PATH=${work}/prefix")
+  # What is installed has to do without what this machine has set up for building.
+  list(APPEND options "-DCMAKE_PREFIX_PATH=${work}/prefix" -DONNXRUNTIME_ROOT=)
+  set(ENV{DATAMANAGER_DEPS_DIR} "${work}/none")
+  unset(ENV{ONNXRUNTIME_ROOT})
 endif()
 run("${CMAKE_COMMAND}" -G Ninja -S "${source}/tests/consumers/${consumer}" -B "${work}/build"
   "-DDATAMANAGER_SOURCE=${source}" ${options})
