@@ -25,22 +25,31 @@ foreach(library IN LISTS libraries)
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${name} COMPONENT development)
 endforeach()
 
-# A runtime that is no system package travels with the library that needs it, with its licence.
-if(NOT OnnxRuntime_LIBRARY_FILE MATCHES "^/usr/lib/")
-  install(PROGRAMS "${OnnxRuntime_LIBRARY_FILE}" DESTINATION ${CMAKE_INSTALL_LIBDIR} RENAME libonnxruntime.so.1
-    COMPONENT library)
+# A runtime that is no system package travels with the library that needs it, with its headers for applications that
+# catch its exception, and with its licence.
+if(OnnxRuntime_IS_CARRIED)
+  install(FILES "${OnnxRuntime_LIBRARY_FILE}" DESTINATION ${DATAMANAGER_INSTALL_RUNTIME_DIR}/lib
+    RENAME libonnxruntime.so.1 COMPONENT library)
+  install(DIRECTORY "${OnnxRuntime_INCLUDE_DIR}/" DESTINATION ${DATAMANAGER_INSTALL_RUNTIME_DIR}/include/onnxruntime
+    COMPONENT development FILES_MATCHING PATTERN "onnxruntime_*.h")
   get_filename_component(onnxruntime_prefix "${OnnxRuntime_LIBRARY_FILE}" DIRECTORY)
-  install(FILES "${onnxruntime_prefix}/../share/doc/onnxruntime/copyright"
-    DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME onnxruntime-copyright COMPONENT library OPTIONAL)
+  set(onnxruntime_licence "${onnxruntime_prefix}/../share/doc/onnxruntime/copyright")
+  if(EXISTS "${onnxruntime_licence}" AND NOT DATAMANAGER_DEBIAN_PACKAGES)
+    install(FILES "${onnxruntime_licence}"
+      DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME onnxruntime-copyright COMPONENT library)
+  endif()
 endif()
-install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT library)
+if(NOT DATAMANAGER_DEBIAN_PACKAGES)
+  install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT library)
+endif()
 install(FILES README.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
 # Beside README.md as in the source, so that its links hold.
-install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation PATTERN Doxyfile EXCLUDE)
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation
+  PATTERN Doxyfile EXCLUDE PATTERN man EXCLUDE)
 install(FILES model/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/model COMPONENT documentation)
 install(FILES samples/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/samples COMPONENT documentation)
 # The mesher writes here; the predictor reads "../temp/mesh.msh" beside the programs.
-install(DIRECTORY DESTINATION temp COMPONENT tools)
+install(DIRECTORY DESTINATION ${DATAMANAGER_INSTALL_TEMP_DIR} COMPONENT tools)
 
 set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/DataManager)
 install(EXPORT DataManagerTargets NAMESPACE DataManager:: DESTINATION ${package_directory} COMPONENT development)
@@ -58,6 +67,22 @@ install(FILES
   cmake/FindOnnxRuntime.cmake
   DESTINATION ${package_directory} COMPONENT development)
 file(RELATIVE_PATH datamanager_pc_prefix "/prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/prefix")
-configure_file(cmake/datamanager.pc.in "${PROJECT_BINARY_DIR}/datamanager.pc" @ONLY)
+# Static libraries do not know what they link, so who uses them names it all.
+set(datamanager_pc_libraries)
+set(datamanager_pc_packages)
+if(NOT BUILD_SHARED_LIBS)
+  set(datamanager_pc_packages " libcrypto")
+  set(runtime "${OnnxRuntime_LIBRARY_FILE}")
+  if(OnnxRuntime_IS_CARRIED)
+    file(RELATIVE_PATH runtime "/prefix/${CMAKE_INSTALL_LIBDIR}" "/prefix/${DATAMANAGER_INSTALL_RUNTIME_DIR}/lib")
+    set(runtime "-L\${libdir}/${runtime} -Wl,-rpath,\${libdir}/${runtime} -l:libonnxruntime.so.1")
+  endif()
+  set(datamanager_pc_libraries " $<TARGET_LINKER_FILE:VTK::CommonMath> $<TARGET_LINKER_FILE:VTK::CommonCore> ${runtime}")
+endif()
+configure_file(cmake/datamanager.pc.in "${PROJECT_BINARY_DIR}/generated/datamanager.pc.in" @ONLY)
+file(GENERATE OUTPUT "${PROJECT_BINARY_DIR}/datamanager.pc" INPUT "${PROJECT_BINARY_DIR}/generated/datamanager.pc.in")
 install(FILES "${PROJECT_BINARY_DIR}/datamanager.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
   COMPONENT development)
+if(DATAMANAGER_DEBIAN_PACKAGES)
+  include(DataManagerPackages)
+endif()

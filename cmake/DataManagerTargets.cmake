@@ -15,7 +15,7 @@ function(datamanager_compile_settings target)
   set_target_properties(${target} PROPERTIES
     CXX_EXTENSIONS OFF
     AUTOMOC ON
-    INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+    INSTALL_RPATH "$ORIGIN/${DATAMANAGER_PROGRAM_RPATH}")
   if(DATAMANAGER_SANITIZERS)
     target_compile_options(${target} PRIVATE
       -fsanitize=${DATAMANAGER_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -25,6 +25,24 @@ function(datamanager_compile_settings target)
     target_compile_options(${target} PRIVATE --coverage -fno-inline)
     target_link_options(${target} PRIVATE --coverage)
   endif()
+endfunction()
+
+# Hidden visibility alone lets templates of the standard library out. What is exported are the namespaces of our
+# libraries, under a symbol version of this series, and nothing else.
+function(datamanager_limit_exports target)
+  if(NOT UNIX OR APPLE)
+    return()
+  endif()
+  set(script "${PROJECT_BINARY_DIR}/generated/${target}.map")
+  # A question mark stands for the blank of a demangled name such as "vtable for DataManager::CaseData".
+  set(patterns "*?for?GlobalConfig;")
+  foreach(scope IN ITEMS DataManager BaseModule DataModel ConfigOption BaseWidget QJsonHelper GlobalConfig)
+    string(APPEND patterns " ${scope}::*; *?for?${scope}::*; *thunk?to?${scope}::*;")
+  endforeach()
+  file(CONFIGURE OUTPUT "${script}" CONTENT
+    "DATAMANAGER_${PROJECT_VERSION_MAJOR} {\n  global:\n    extern \"C++\" { ${patterns} };\n  local: *;\n};\n")
+  target_link_options(${target} PRIVATE "LINKER:--version-script=${script}")
+  set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${script}")
 endfunction()
 
 # A library whose headers are included as <name-in-lower-case/Header.h>, with hidden visibility and an export macro
@@ -40,6 +58,12 @@ function(datamanager_add_library target)
     VISIBILITY_INLINES_HIDDEN ON
     POSITION_INDEPENDENT_CODE ON
     INSTALL_RPATH "$ORIGIN")
+  if(BUILD_SHARED_LIBS)
+    datamanager_limit_exports(${target})
+  else()
+    string(TOUPPER ${target} macro)
+    target_compile_definitions(${target} PUBLIC ${macro}_STATIC_DEFINE)
+  endif()
   set(generated "${PROJECT_BINARY_DIR}/generated/${directory}")
   generate_export_header(${target}
     EXPORT_FILE_NAME "${generated}/${directory}/${directory}_export.h")
@@ -51,10 +75,15 @@ function(datamanager_add_library target)
   set_property(GLOBAL APPEND PROPERTY DATAMANAGER_LIBRARIES ${target})
 endfunction()
 
-# Compiles every header of our libraries alone, so that each can be included first.
+# Compiles every header of our libraries alone, so that each can be included first; those of the given static libraries,
+# of which the programs are made, too.
 function(datamanager_check_headers)
   get_property(libraries GLOBAL PROPERTY DATAMANAGER_LIBRARIES)
+  list(APPEND libraries ${ARGN})
   foreach(library IN LISTS libraries)
+    if(NOT TARGET ${library})
+      continue()
+    endif()
     get_target_property(directory ${library} SOURCE_DIR)
     get_filename_component(root "${directory}" DIRECTORY)
     file(GLOB_RECURSE headers RELATIVE "${root}" "${directory}/*.h")
