@@ -13,13 +13,14 @@ _meshquality()
   if [ "$COMP_CWORD" -gt 0 ]; then previous=${COMP_WORDS[COMP_CWORD - 1]}; fi
 
   if [ "$COMP_CWORD" -eq 1 ]; then
-    mapfile -t COMPREPLY < <(compgen -W 'report check compare predict --help --version' -- "$current")
+    mapfile -t COMPREPLY < <(compgen -W 'report check compare model predict --help --version' -- "$current")
     return
   fi
   case "$command" in
     report) options='--json --jsonl --csv --vtu --html --worst --by --histogram --by-region --model --help' ;;
     check) options='--profile --print-profile --help' ;;
     compare) options='--model --help' ;;
+    model) options='--json --help' ;;
     predict) options='--help' ;;
     *) return ;;
   esac
@@ -27,7 +28,7 @@ _meshquality()
     --by | --histogram) mapfile -t COMPREPLY < <(compgen -W "$metrics" -- "$current"); return ;;
     --worst) return ;;
   esac
-  if [[ $current == --* && $previous != --@(json|csv|vtu|html|model|profile) ]]; then
+  if [[ $current == --* && ($command == model || $previous != --@(json|csv|vtu|html|model|profile)) ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")
   elif [ "$command" != predict ]; then
     compopt -o filenames 2>/dev/null

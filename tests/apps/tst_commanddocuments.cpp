@@ -174,6 +174,8 @@ void TestCommandDocuments::completes_data()
     row("meshquality report --json o", "one.msh other.json");
     row("meshquality check --pr", "--profile --print-profile");
     row("meshquality compare --", "--model --help");
+    row("meshquality model --json --", "--json --help");
+    row("meshquality model o", "one.msh other.json");
     row("meshquality predict o", "");
     row("meshquality nonsense --", "");
     row("materials l", "list");
