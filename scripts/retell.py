@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 DataManager contributors
 # SPDX-License-Identifier: BSD-3-Clause
 #
-# Writes anew what pages show of programs: the outputs in docs/commands.md, the sequences of calls and what a listener
-# hears, and the files of docs/getting-started. Look at the difference before you commit it.
+# Writes anew what pages show: the outputs of programs in README.md and docs/commands.md, sequences of calls and what a
+# listener hears, the files of docs/getting-started. Look at the difference before you commit it.
 #   scripts/retell.py [BUILD_DIRECTORY]
 import os
 import pathlib
@@ -53,3 +53,8 @@ rewrite("commands.md", r"```console\n(.*?)```\n", run_block)
 for name in ("frame", "selection", "materials", "coordinates", "meshquality"):
     rewrite(f"{name}.md", r"(<!-- sequences (\w+) -->\n)```text\n.*?```\n", run_sequence)
 rewrite("getting-started.md", r"(<!-- (getting-started/\S+) -->\n)```(\w+)\n.*?\n```\n", show_file)
+
+report = subprocess.run([BUILD / "bin/meshquality", "report", "samples/plate-with-hole.msh"], cwd=SOURCE, text=True,
+                        stdout=subprocess.PIPE, check=True).stdout
+rewrite("../README.md", r"    samples/plate-with-hole\.msh\n(    [^\n]*\n)*",
+        lambda _: "".join(f"    {line}\n" for line in report.splitlines()))
