@@ -34,13 +34,25 @@ GeometryManager::GeometryManager()
     connect(IBaseSignal::getInstance(), &IBaseSignal::signal_checkHighLight, this, &GeometryManager::checkHighLight);
 }
 
-int GeometryManager::getSetCount() { return m_sets.count(); }
+int GeometryManager::getSetCount()
+{
+    return m_sets.count();
+}
 
-QList<int> GeometryManager::findSets(const QString& name) { return m_sets.find(name); }
+QList<int> GeometryManager::findSets(const QString& name)
+{
+    return m_sets.find(name);
+}
 
-QString GeometryManager::getSetName(int setID) { return m_sets.set(setID).name; }
+QString GeometryManager::getSetName(int setID)
+{
+    return m_sets.set(setID).name;
+}
 
-QList<QPair<int, int>> GeometryManager::getSetMembers(int setID) const { return m_sets.set(setID).memberList; }
+QList<QPair<int, int>> GeometryManager::getSetMembers(int setID) const
+{
+    return m_sets.set(setID).memberList;
+}
 
 int GeometryManager::addSet(const QString& name, const QList<QPair<int, int>>& memberList)
 {
@@ -83,7 +95,10 @@ void GeometryManager::showSets(const QList<int>& setIDList, bool isShow)
     showComponents(componentIDList, isShow);
 }
 
-int GeometryManager::getComponentCount() { return m_components.size(); }
+int GeometryManager::getComponentCount()
+{
+    return m_components.size();
+}
 
 QList<int> GeometryManager::findComponents(const QString& name)
 {
@@ -96,7 +111,10 @@ QList<int> GeometryManager::findComponents(const QString& name)
     return found;
 }
 
-QString GeometryManager::getComponentName(int componentID) { return m_components.value(componentID).name; }
+QString GeometryManager::getComponentName(int componentID)
+{
+    return m_components.value(componentID).name;
+}
 
 bool GeometryManager::isNameTaken(const QString& name, int componentID)
 {
@@ -191,9 +209,15 @@ QVector<double> GeometryManager::getBoundingBox(const QList<int>& componentIDLis
     return box;
 }
 
-bool GeometryManager::isComponentShown(int componentID) const { return m_components.value(componentID).isShown; }
+bool GeometryManager::isComponentShown(int componentID) const
+{
+    return m_components.value(componentID).isShown;
+}
 
-int GeometryManager::getMaterialID(int componentID) const { return m_components.value(componentID).materialID; }
+int GeometryManager::getMaterialID(int componentID) const
+{
+    return m_components.value(componentID).materialID;
+}
 
 void GeometryManager::setMaterialID(const QList<int>& componentIDList, int materialID)
 {
@@ -221,7 +245,10 @@ QList<int> GeometryManager::findComponentsOfMaterial(int materialID) const
     return found;
 }
 
-void GeometryManager::dropMaterial(int materialID) { setMaterialID(findComponentsOfMaterial(materialID), 0); }
+void GeometryManager::dropMaterial(int materialID)
+{
+    setMaterialID(findComponentsOfMaterial(materialID), 0);
+}
 
 // What is hidden or gone cannot be picked.
 void GeometryManager::checkHighLight(bool& isAllowed, int selectModel, int firstID, int secondID) const

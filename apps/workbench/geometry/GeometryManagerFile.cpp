@@ -14,14 +14,38 @@ using BaseModule::GlobalHelper;
 namespace Workbench {
 namespace {
 
-QString keyID() { return QStringLiteral("id"); }
-QString keyName() { return QStringLiteral("name"); }
-QString keyMaterial() { return QStringLiteral("material"); }
-QString keyVolume() { return QStringLiteral("volumeGroup"); }
-QString keyShown() { return QStringLiteral("shown"); }
-QString keyFile() { return QStringLiteral("file"); }
-QString keyComponents() { return QStringLiteral("components"); }
-QString keySets() { return QStringLiteral("sets"); }
+QString keyID()
+{
+    return QStringLiteral("id");
+}
+QString keyName()
+{
+    return QStringLiteral("name");
+}
+QString keyMaterial()
+{
+    return QStringLiteral("material");
+}
+QString keyVolume()
+{
+    return QStringLiteral("volumeGroup");
+}
+QString keyShown()
+{
+    return QStringLiteral("shown");
+}
+QString keyFile()
+{
+    return QStringLiteral("file");
+}
+QString keyComponents()
+{
+    return QStringLiteral("components");
+}
+QString keySets()
+{
+    return QStringLiteral("sets");
+}
 
 // Identifiers of a file beyond this are damage: nobody issues so many.
 constexpr int largestPossibleID = 1000000;
@@ -45,9 +69,9 @@ bool GeometryManager::save(const QString& filePath)
     for (int componentID : m_components.keys()) {
         components.append(componentToJson(componentID));
     }
-    const QJsonObject object{{keyComponents(), components},
-                             {keySets(), m_sets.toJson()}};
-    return GlobalHelper::writeFile(filePath, QJsonDocument(object).toJson(), QIODevice::WriteOnly | QIODevice::Truncate);
+    const QJsonObject object{{keyComponents(), components}, {keySets(), m_sets.toJson()}};
+    return GlobalHelper::writeFile(filePath, QJsonDocument(object).toJson(),
+                                   QIODevice::WriteOnly | QIODevice::Truncate);
 }
 
 bool GeometryManager::load(const QString& filePath)
@@ -77,7 +101,8 @@ void GeometryManager::takeJson(const QJsonObject& object)
         component.volumeTag = entry.value(keyVolume()).toInt();
         component.isShown = entry.value(keyShown()).toBool(true);
         component.filePath = entry.value(keyFile()).toString();
-        if (componentID > 0 && componentID <= largestPossibleID && !m_components.contains(componentID) && !isNameTaken(component.name, 0)) {
+        if (componentID > 0 && componentID <= largestPossibleID && !m_components.contains(componentID) &&
+            !isNameTaken(component.name, 0)) {
             m_components.insert(componentID, component);
             largestID = qMax(largestID, componentID);
         }

@@ -34,9 +34,15 @@ QVector<double> boxOfVolume(const KernelMesh& mesh, int volumeTag)
 
 } // namespace
 
-int GeometryManager::getKernelID(int componentID) const { return m_components.value(componentID).kernelID; }
+int GeometryManager::getKernelID(int componentID) const
+{
+    return m_components.value(componentID).kernelID;
+}
 
-int GeometryManager::getVolumeTag(int componentID) const { return m_components.value(componentID).volumeTag; }
+int GeometryManager::getVolumeTag(int componentID) const
+{
+    return m_components.value(componentID).volumeTag;
+}
 
 int GeometryManager::componentOfVolume(int kernelID, int volumeTag) const
 {
@@ -48,7 +54,10 @@ int GeometryManager::componentOfVolume(int kernelID, int volumeTag) const
     return 0;
 }
 
-QList<int> GeometryManager::getFaces(int componentID) const { return m_components.value(componentID).faces.keys(); }
+QList<int> GeometryManager::getFaces(int componentID) const
+{
+    return m_components.value(componentID).faces.keys();
+}
 
 QString GeometryManager::getFaceName(int componentID, int faceID) const
 {

@@ -21,7 +21,10 @@ struct Entry
     std::uint32_t element; // times 4, plus the side
 };
 
-bool isSameFace(const Entry& a, const Entry& b) { return a.second == b.second && a.third == b.third; }
+bool isSameFace(const Entry& a, const Entry& b)
+{
+    return a.second == b.second && a.third == b.third;
+}
 
 std::array<int, 3> nodesOfSide(const std::array<int, 4>& corners, std::size_t side)
 {

@@ -70,7 +70,8 @@ KernelReading readKernelMesh(const QString& path, const KernelProgress& progress
 {
     const auto part = [&progress](double from, double to) {
         return [&progress, from, to](qint64 read, qint64 size) {
-            return progress(from + (to - from) * static_cast<double>(read) / static_cast<double>(std::max(size, Q_INT64_C(1))));
+            return progress(from + (to - from) * static_cast<double>(read) /
+                                       static_cast<double>(std::max(size, Q_INT64_C(1))));
         };
     };
     auto mesh = QSharedPointer<KernelMesh>::create();

@@ -26,7 +26,10 @@ void MeshDisplay::colourByFace()
     Q_EMIT signal_colouringChanged();
 }
 
-void MeshDisplay::focusElement(int kernelID, int elementID) { Q_EMIT signal_focusElement(kernelID, elementID); }
+void MeshDisplay::focusElement(int kernelID, int elementID)
+{
+    Q_EMIT signal_focusElement(kernelID, elementID);
+}
 
 void MeshDisplay::setTransparency(double transparency)
 {

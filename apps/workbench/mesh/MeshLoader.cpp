@@ -44,7 +44,10 @@ KernelReading readOne(const MeshLoader::Job& job, const KernelProgress& progress
 
 MeshLoader::MeshLoader(QObject* parent) : QObject(parent) {}
 
-MeshLoader::~MeshLoader() { stopThread(); }
+MeshLoader::~MeshLoader()
+{
+    stopThread();
+}
 
 void MeshLoader::start(const QList<Job>& jobs, const Finish& finish)
 {
@@ -57,19 +60,25 @@ void MeshLoader::start(const QList<Job>& jobs, const Finish& finish)
             const int percent = static_cast<int>(100 * done);
             if (percent > told) {
                 told = percent;
-                QMetaObject::invokeMethod(this, [this, percent, isCancelled] {
-                    if (!*isCancelled) {
-                        Q_EMIT signal_progress(percent);
-                    }
-                }, Qt::QueuedConnection);
+                QMetaObject::invokeMethod(
+                    this,
+                    [this, percent, isCancelled] {
+                        if (!*isCancelled) {
+                            Q_EMIT signal_progress(percent);
+                        }
+                    },
+                    Qt::QueuedConnection);
             }
             return !*isCancelled;
         });
-        QMetaObject::invokeMethod(this, [this, finish, readings, isCancelled] {
-            if (m_isCancelled == isCancelled) {
-                end(finish, readings);
-            }
-        }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this,
+            [this, finish, readings, isCancelled] {
+                if (m_isCancelled == isCancelled) {
+                    end(finish, readings);
+                }
+            },
+            Qt::QueuedConnection);
     });
     m_thread->start(QThread::LowPriority);
 }

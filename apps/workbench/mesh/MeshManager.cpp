@@ -28,11 +28,20 @@ MeshManager::MeshManager() : m_loader(new MeshLoader(this))
     connect(IBaseSignal::getInstance(), &IBaseSignal::signal_checkHighLight, this, &MeshManager::checkHighLight);
 }
 
-int MeshManager::getSetCount() { return m_sets.count(); }
+int MeshManager::getSetCount()
+{
+    return m_sets.count();
+}
 
-QList<int> MeshManager::findSets(const QString& name) { return m_sets.find(name); }
+QList<int> MeshManager::findSets(const QString& name)
+{
+    return m_sets.find(name);
+}
 
-QString MeshManager::getSetName(int setID) { return m_sets.set(setID).name; }
+QString MeshManager::getSetName(int setID)
+{
+    return m_sets.set(setID).name;
+}
 
 int MeshManager::addSet(const QString& name, const QList<QPair<int, int>>& memberList)
 {
@@ -44,9 +53,15 @@ int MeshManager::addSet(const QString& name, const QList<QPair<int, int>>& membe
     return setID;
 }
 
-bool MeshManager::renameSet(int setID, const QString& name) { return m_sets.rename(setID, name); }
+bool MeshManager::renameSet(int setID, const QString& name)
+{
+    return m_sets.rename(setID, name);
+}
 
-int MeshManager::removeSets(const QList<int>& setIDList) { return m_sets.remove(setIDList).size(); }
+int MeshManager::removeSets(const QList<int>& setIDList)
+{
+    return m_sets.remove(setIDList).size();
+}
 
 void MeshManager::showSets(const QList<int>& setIDList, bool isShow)
 {
@@ -59,7 +74,10 @@ void MeshManager::showSets(const QList<int>& setIDList, bool isShow)
     showKernels(kernelIDList, isShow);
 }
 
-int MeshManager::getKernelCount() { return m_kernels.size(); }
+int MeshManager::getKernelCount()
+{
+    return m_kernels.size();
+}
 
 QList<int> MeshManager::findKernels(const QString& name)
 {
@@ -78,9 +96,15 @@ const MeshManager::Kernel* MeshManager::kernel(int kernelID) const
     return found == m_kernels.end() ? nullptr : &*found;
 }
 
-QSharedPointer<const KernelMesh> MeshManager::mesh(int kernelID) const { return m_kernels.value(kernelID).mesh; }
+QSharedPointer<const KernelMesh> MeshManager::mesh(int kernelID) const
+{
+    return m_kernels.value(kernelID).mesh;
+}
 
-QString MeshManager::getKernelName(int kernelID) { return m_kernels.value(kernelID).name; }
+QString MeshManager::getKernelName(int kernelID)
+{
+    return m_kernels.value(kernelID).name;
+}
 
 bool MeshManager::isNameTaken(const QString& name, int kernelID) const
 {
@@ -109,7 +133,10 @@ void MeshManager::showKernels(const QList<int>& kernelIDList, bool isShow)
     Q_EMIT signal_visibilityChanged();
 }
 
-bool MeshManager::isKernelShown(int kernelID) const { return m_kernels.value(kernelID).isShown; }
+bool MeshManager::isKernelShown(int kernelID) const
+{
+    return m_kernels.value(kernelID).isShown;
+}
 
 int MeshManager::getNodeCount(int kernelID)
 {

@@ -86,6 +86,8 @@ public:
     /// As load(), in the background.
     void restore(const QString& filePath);
     bool isLoading() const;
+    /// Whether the signals just now tell of what a file described, not of a change.
+    bool isRestoring() const { return m_isRestoring; }
     /// Gives the reading up; what was there before stays.
     void cancelLoad();
 
@@ -143,6 +145,7 @@ private:
     QMap<int, Kernel> m_kernels;
     NamedSets m_sets;
     MeshLoader* m_loader;
+    bool m_isRestoring = false;
 };
 
 } // namespace Workbench

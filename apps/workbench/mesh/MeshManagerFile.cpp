@@ -12,6 +12,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -23,15 +24,42 @@ namespace {
 // Identifiers of a file beyond this are damage: nobody issues so many.
 constexpr int largestPossibleID = 1000000;
 
-QString keyID() { return QStringLiteral("id"); }
-QString keyName() { return QStringLiteral("name"); }
-QString keyFile() { return QStringLiteral("file"); }
-QString keyShown() { return QStringLiteral("shown"); }
-QString keyGroups() { return QStringLiteral("groups"); }
-QString keyPhysical() { return QStringLiteral("volumeGroup"); }
-QString keyElements() { return QStringLiteral("elements"); }
-QString keyKernels() { return QStringLiteral("kernels"); }
-QString keySets() { return QStringLiteral("sets"); }
+QString keyID()
+{
+    return QStringLiteral("id");
+}
+QString keyName()
+{
+    return QStringLiteral("name");
+}
+QString keyFile()
+{
+    return QStringLiteral("file");
+}
+QString keyShown()
+{
+    return QStringLiteral("shown");
+}
+QString keyGroups()
+{
+    return QStringLiteral("groups");
+}
+QString keyPhysical()
+{
+    return QStringLiteral("volumeGroup");
+}
+QString keyElements()
+{
+    return QStringLiteral("elements");
+}
+QString keyKernels()
+{
+    return QStringLiteral("kernels");
+}
+QString keySets()
+{
+    return QStringLiteral("sets");
+}
 
 // Null when the file is no description of meshes.
 QJsonObject readDescription(const QString& filePath)
@@ -125,8 +153,7 @@ bool MeshManager::load(const QString& filePath)
 {
     const QJsonObject description = readDescription(filePath);
     const auto goOn = [](double) { return true; };
-    const QVector<KernelReading> readings =
-        MeshLoader::read(jobsOf(description, QFileInfo(filePath).path(), {}), goOn);
+    const QVector<KernelReading> readings = MeshLoader::read(jobsOf(description, QFileInfo(filePath).path(), {}), goOn);
     if (description.isEmpty() || (!readings.isEmpty() && !readings.constLast().mesh)) {
         return false;
     }
@@ -155,6 +182,7 @@ void MeshManager::restore(const QString& filePath)
 
 void MeshManager::takeDescription(const QJsonObject& description, const QVector<KernelReading>& readings)
 {
+    const QScopedValueRollback<bool> restoring(m_isRestoring, true);
     QMap<int, Kernel> kernels;
     for (int i = 0; i < readings.size(); ++i) {
         const QJsonObject object = description.value(keyKernels()).toArray().at(i).toObject();

@@ -26,11 +26,14 @@ bool MeshManager::isGroupNameTaken(const Kernel& kernel, const QString& name, in
 {
     const QList<int> others = kernel.groups.keys();
     return name.isEmpty() || std::any_of(others.begin(), others.end(), [&](int other) {
-        return other != groupID && kernel.groups[other].name == name;
-    });
+               return other != groupID && kernel.groups[other].name == name;
+           });
 }
 
-int MeshManager::getGroupCount(int kernelID) { return m_kernels.value(kernelID).groups.size(); }
+int MeshManager::getGroupCount(int kernelID)
+{
+    return m_kernels.value(kernelID).groups.size();
+}
 
 QList<int> MeshManager::findGroups(int kernelID, const QString& name)
 {

@@ -22,11 +22,20 @@ using DataManager::SelectedDataManager;
 namespace Workbench {
 namespace {
 
-QString fileOfKernel(int kernelID) { return QStringLiteral("mesh-%1.msh").arg(kernelID); }
+QString fileOfKernel(int kernelID)
+{
+    return QStringLiteral("mesh-%1.msh").arg(kernelID);
+}
 
-QString workingPath(const QString& fileName) { return GlobalHelper::getProjectTempIODir() + QLatin1Char('/') + fileName; }
+QString workingPath(const QString& fileName)
+{
+    return GlobalHelper::getProjectTempIODir() + QLatin1Char('/') + fileName;
+}
 
-QString predictorPath() { return QCoreApplication::applicationDirPath() + QStringLiteral("/../temp/mesh.msh"); }
+QString predictorPath()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../temp/mesh.msh");
+}
 
 } // namespace
 
@@ -118,9 +127,15 @@ bool MeshManager::isUsable(const QVector<KernelReading>& readings, const QString
     return !last.mesh.isNull();
 }
 
-bool MeshManager::isLoading() const { return m_loader->isActive(); }
+bool MeshManager::isLoading() const
+{
+    return m_loader->isActive();
+}
 
-void MeshManager::cancelLoad() { m_loader->cancel(); }
+void MeshManager::cancelLoad()
+{
+    m_loader->cancel();
+}
 
 void MeshManager::clear()
 {

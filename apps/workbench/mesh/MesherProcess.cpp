@@ -73,8 +73,9 @@ bool MesherProcess::start(const QString& geometryPath, double elementSize)
     m_progress = MesherProgress();
     m_geometryPath = geometryPath;
     m_isCancelled = false;
-    QStringList arguments{geometryPath, QStringLiteral("-3"), QStringLiteral("-format"), QStringLiteral("msh22"),
-                          QStringLiteral("-o"), outputPath()};
+    QStringList arguments{
+        geometryPath,         QStringLiteral("-3"), QStringLiteral("-format"), QStringLiteral("msh22"),
+        QStringLiteral("-o"), outputPath()};
     if (elementSize > 0) {
         arguments << QStringLiteral("-clmax") << QString::number(elementSize, 'g', 17);
     }

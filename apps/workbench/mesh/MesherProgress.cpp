@@ -20,9 +20,9 @@ struct Stage
 
 // What a run of three-dimensional meshing prints, in this order.
 constexpr Stage stages[] = {
-    {"Reading '", 2},           {"Done reading '", 5},        {"Meshing 1D...", 6},       {"Done meshing 1D", 12},
-    {"Meshing 2D...", 13},      {"Done meshing 2D", 35},      {"Meshing 3D...", 36},      {"Done meshing 3D", 80},
-    {"Optimizing mesh...", 81}, {"Done optimizing mesh", 92}, {"Writing '", 93},          {"Done writing '", 100},
+    {"Reading '", 2},           {"Done reading '", 5},        {"Meshing 1D...", 6},  {"Done meshing 1D", 12},
+    {"Meshing 2D...", 13},      {"Done meshing 2D", 35},      {"Meshing 3D...", 36}, {"Done meshing 3D", 80},
+    {"Optimizing mesh...", 81}, {"Done optimizing mesh", 92}, {"Writing '", 93},     {"Done writing '", 100},
 };
 
 } // namespace
@@ -60,6 +60,9 @@ void MesherProgress::takeLine(const QByteArray& line)
     }
 }
 
-void MesherProgress::rise(int percent) { m_percent = std::clamp(percent, m_percent, 100); }
+void MesherProgress::rise(int percent)
+{
+    m_percent = std::clamp(percent, m_percent, 100);
+}
 
 } // namespace Workbench

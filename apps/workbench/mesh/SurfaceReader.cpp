@@ -127,8 +127,8 @@ bool readSurfaceGroups(const QString& path, SurfaceGroups& groups, const FileLin
 {
     groups = SurfaceGroups();
     Reader reader(groups);
-    const bool isRead = FileLines(path).forEach(
-        [&reader](const char* begin, const char* end) { reader.take(begin, end); }, progress);
+    const bool isRead =
+        FileLines(path).forEach([&reader](const char* begin, const char* end) { reader.take(begin, end); }, progress);
     std::stable_sort(groups.triangles.begin(), groups.triangles.end(),
                      [](const auto& a, const auto& b) { return a.nodes < b.nodes; });
     return isRead;

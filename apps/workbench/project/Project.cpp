@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <workbench/project/Project.h>
+
+#include <workbench/geometry/GeometryManager.h>
+#include <workbench/mesh/MeshManager.h>
+#include <workbench/project/ProjectArchive.h>
+#include <workbench/project/ProjectFiles.h>
+#include <workbench/project/RecentProjects.h>
+#include <workbench/project/WorkingDirectory.h>
+
+#include <basemodule/IBaseSignal.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using BaseModule::IBaseSignal;
+
+namespace Workbench {
+
+QString Project::name() const { return m_path.isEmpty() ? tr("Untitled") : QFileInfo(m_path).completeBaseName(); }
+
+// The library saves materials by itself and tells nobody: their file shows it.
+QDateTime Project::materialsSaved() const
+{
+    const QString path = m_directory ? ProjectFiles::materials(m_directory->path()) : QString();
+    return QFileInfo(path).lastModified();
+}
+
+bool Project::isModified() const { return m_isModified || materialsSaved() != m_materialsSaved; }
+
+void Project::setModified(bool isModified)
+{
+    m_isModified = isModified;
+    if (!isModified) {
+        m_materialsSaved = materialsSaved();
+    }
+    Q_EMIT signal_changed();
+}
+
+void Project::noteChange()
+{
+    if (!m_isLoading && !MeshManager::instance()->isRestoring()) {
+        setModified(true);
+    }
+}
+
+void Project::noteFileChange()
+{
+    if (!m_isLoading && isModified()) {
+        setModified(true);
+    }
+}
+
+void Project::watchManagers()
+{
+    const GeometryManager* geometry = GeometryManager::instance();
+    connect(geometry, &GeometryManager::signal_componentListDataChanged, this, &Project::noteChange);
+    connect(geometry, &GeometryManager::signal_componentListRemoved, this, &Project::noteChange);
+    connect(geometry, &GeometryManager::signal_geoSetListDataChanged, this, &Project::noteChange);
+    connect(geometry, &GeometryManager::signal_geoSetListRemoved, this, &Project::noteChange);
+    const MeshManager* mesh = MeshManager::instance();
+    connect(mesh, &MeshManager::signal_kernalDataListChanged, this, &Project::noteChange);
+    connect(mesh, &MeshManager::signal_kernalDataListDeleted, this, &Project::noteChange);
+    connect(mesh, &MeshManager::signal_groupDataListChanged, this, &Project::noteChange);
+    connect(mesh, &MeshManager::signal_groupDataListDeleted, this, &Project::noteChange);
+    connect(mesh, &MeshManager::signal_visibilityChanged, this, &Project::noteChange);
+    connect(IBaseSignal::getInstance(), &IBaseSignal::signal_updateWindowTitle, this, &Project::noteChange);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &Project::noteFileChange);
+}
+
+bool Project::fail(const QString& text, const QString& path, const QString& problem)
+{
+    const QString message = text.arg(QDir::toNativeSeparators(path), problem);
+    Q_EMIT IBaseSignal::getInstance()->signal_showMessageType(2, message);
+    return false;
+}
+
+bool Project::save() { return saveAs(m_path); }
+
+bool Project::saveAs(const QString& path)
+{
+    const QString failure = tr("The project %1 cannot be saved: %2");
+    if (MeshManager::instance()->isLoading()) {
+        return fail(failure, path, tr("a mesh is being read; wait, or cancel it"));
+    }
+    const QString directory = m_directory->path();
+    if (!GeometryManager::instance()->save(ProjectFiles::geometry(directory)) ||
+        !MeshManager::instance()->save(ProjectFiles::mesh(directory)) ||
+        !ProjectFiles::writeDescription(directory, {m_geometryName})) {
+        return fail(failure, path, tr("its working files could not be written"));
+    }
+    const QString problem = ProjectArchive::pack(directory, ProjectFiles::all(directory), path);
+    if (!problem.isEmpty()) {
+        return fail(failure, path, problem);
+    }
+    m_path = QFileInfo(path).absoluteFilePath();
+    RecentProjects::instance()->add(m_path);
+    setModified(false);
+    return true;
+}
+
+bool Project::takeGeometry(const QString& path)
+{
+    const QString copy = ProjectFiles::geometrySource(m_directory->path(), path);
+    if (QFileInfo(path) == QFileInfo(copy)) {
+        return true;
+    }
+    QFile source(path);
+    if (!QFileInfo(path).isFile() || !source.open(QIODevice::ReadOnly)) {
+        return fail(tr("The geometry %1 cannot be opened: %2"), path, tr("it cannot be read"));
+    }
+    QFile::remove(geometryPath());
+    if (!source.copy(copy)) {
+        return fail(tr("The geometry %1 cannot be opened: %2"), path, source.errorString());
+    }
+    m_geometryName = QFileInfo(path).fileName();
+    setModified(true);
+    return true;
+}
+
+QString Project::geometryPath() const
+{
+    return m_geometryName.isEmpty() ? QString() : ProjectFiles::geometrySource(m_directory->path(), m_geometryName);
+}
+
+} // namespace Workbench

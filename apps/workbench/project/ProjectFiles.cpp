@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <workbench/project/ProjectFiles.h>
+
+#include <basemodule/GlobalConfig.h>
+#include <basemodule/GlobalHelper.h>
+#include <configoption/TextCipher.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using BaseModule::GlobalHelper;
+
+namespace Workbench {
+namespace {
+
+constexpr int formatVersion = 1;
+
+QString description(const QString& directory) { return directory + QStringLiteral("/project.json"); }
+QString keyFormat() { return QStringLiteral("format"); }
+QString keyVersion() { return QStringLiteral("version"); }
+QString keyGeometry() { return QStringLiteral("geometryFile"); }
+QString formatName() { return QStringLiteral("workbench project"); }
+
+QString say(const char* text) { return QCoreApplication::translate("Workbench::ProjectFiles", text); }
+
+QJsonObject readObject(const QString& path)
+{
+    QByteArray content;
+    return GlobalHelper::readFile(path, content) ? QJsonDocument::fromJson(content).object() : QJsonObject();
+}
+
+} // namespace
+
+QString ProjectFiles::materials(const QString& directory)
+{
+    return directory + QStringLiteral("/MaterialLibrary.json");
+}
+
+QString ProjectFiles::coordinateSystems(const QString& directory)
+{
+    return directory + QStringLiteral("/RelativeCoordinateSystemDate.json");
+}
+
+QString ProjectFiles::geometry(const QString& directory) { return directory + QStringLiteral("/geometry.json"); }
+
+QString ProjectFiles::mesh(const QString& directory) { return directory + QStringLiteral("/mesh.json"); }
+
+QString ProjectFiles::geometrySource(const QString& directory, const QString& geometryName)
+{
+    return directory + QStringLiteral("/geometry-source.") + QFileInfo(geometryName).suffix().toLower();
+}
+
+QStringList ProjectFiles::all(const QString& directory)
+{
+    return QDir(directory).entryList(QDir::Files | QDir::NoSymLinks, QDir::Name);
+}
+
+bool ProjectFiles::writeDescription(const QString& directory, const Description& content)
+{
+    const QJsonObject object{
+        {keyFormat(), formatName()}, {keyVersion(), formatVersion}, {keyGeometry(), content.geometryName}};
+    return GlobalHelper::writeFile(description(directory), QJsonDocument(object).toJson(),
+                                   QIODevice::WriteOnly | QIODevice::Truncate);
+}
+
+QString ProjectFiles::check(const QString& directory, Description& content)
+{
+    const QJsonObject object = readObject(description(directory));
+    if (object.value(keyFormat()).toString() != formatName()) {
+        return say(QT_TRANSLATE_NOOP("Workbench::ProjectFiles", "it is an archive, but no project"));
+    }
+    if (object.value(keyVersion()).toInt() != formatVersion) {
+        return say(QT_TRANSLATE_NOOP("Workbench::ProjectFiles", "it was saved by a newer version of the program"));
+    }
+    if (readObject(geometry(directory)).isEmpty() || readObject(mesh(directory)).isEmpty()) {
+        return say(QT_TRANSLATE_NOOP("Workbench::ProjectFiles", "its description of geometry or mesh is damaged"));
+    }
+    content.geometryName = QFileInfo(object.value(keyGeometry()).toString()).fileName();
+    return {};
+}
+
+bool ProjectFiles::areMaterialsUnreadable(const QString& directory)
+{
+    QByteArray content;
+    if (!GlobalHelper::readFile(materials(directory), content) || GlobalConfig::getIsDevelop()) {
+        return false;
+    }
+    return ConfigOption::TextCipher::getInstance()->decryptData_CBC(QString::fromUtf8(content)).isEmpty();
+}
+
+} // namespace Workbench

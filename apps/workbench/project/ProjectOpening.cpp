@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <workbench/project/Project.h>
+
+#include <workbench/geometry/GeometryManager.h>
+#include <workbench/mesh/MeshManager.h>
+#include <workbench/project/ProjectArchive.h>
+#include <workbench/project/ProjectFiles.h>
+#include <workbench/project/RecentProjects.h>
+#include <workbench/project/WorkingDirectory.h>
+
+#include <basemodule/GlobalHelper.h>
+#include <basemodule/IBaseSignal.h>
+#include <datamanager/coordinates/RelativeCoordinateSystem.h>
+#include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
+#include <datamanager/material/MaterialLibraryManager.h>
+#include <datamanager/selection/SelectedDataManager.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+using BaseModule::GlobalHelper;
+using BaseModule::IBaseSignal;
+using DataManager::MaterialLibraryManager;
+using DataManager::RelativeCoordinateSystem;
+using DataManager::RelativeCoordinateSystemDate;
+using DataManager::SelectedDataManager;
+
+namespace Workbench {
+
+Project* Project::instance()
+{
+    static auto* const project = new Project;
+    return project;
+}
+
+Project::Project()
+{
+    SelectedDataManager::getInstance()->init();
+    SelectedDataManager::getInstance()->setHighLightCheckEnable(true);
+    watchManagers();
+    create();
+    // The registry's position 0 is that of the global system. It must be there before any file is read.
+    m_isLoading = true;
+    if (RelativeCoordinateSystemDate::getInstance()->getRelativeCoordinateSystemDateCount() == 0) {
+        auto* global = new RelativeCoordinateSystem;
+        global->setName(QStringLiteral("Global"));
+        RelativeCoordinateSystemDate::getInstance()->appendCoordinateSystem(global);
+        RelativeCoordinateSystem::resetMaxID();
+    }
+    m_isLoading = false;
+}
+
+Project::~Project() = default;
+
+bool Project::create()
+{
+    auto directory = std::make_unique<WorkingDirectory>();
+    if (!directory->isValid()) {
+        return fail(tr("No working directory can be made in %1: %2"), WorkingDirectory::parentPath(),
+                    tr("is there space, and permission?"));
+    }
+    adopt(std::move(directory));
+    m_path.clear();
+    m_geometryName.clear();
+    setModified(false);
+    Q_EMIT signal_opened();
+    return true;
+}
+
+bool Project::open(const QString& path)
+{
+    auto directory = std::make_unique<WorkingDirectory>();
+    ProjectFiles::Description description;
+    QString problem = directory->isValid() ? ProjectArchive::unpack(path, directory->path())
+                                           : tr("no working directory can be made");
+    if (problem.isEmpty()) {
+        problem = ProjectFiles::check(directory->path(), description);
+    }
+    if (!problem.isEmpty()) {
+        return fail(tr("The project %1 cannot be opened: %2"), path, problem);
+    }
+    adopt(std::move(directory));
+    m_path = QFileInfo(path).absoluteFilePath();
+    m_geometryName = QFile::exists(ProjectFiles::geometrySource(m_directory->path(), description.geometryName))
+                         ? description.geometryName
+                         : QString();
+    load();
+    RecentProjects::instance()->add(m_path);
+    Q_EMIT signal_opened();
+    return true;
+}
+
+// Lets go of the open project's content while its files are still there, then makes the directory the current one.
+void Project::adopt(std::unique_ptr<WorkingDirectory> directory)
+{
+    m_isLoading = true;
+    if (m_directory) {
+        unload();
+        m_watcher.removePath(m_directory->path());
+    }
+    m_directory = std::move(directory);
+    m_watcher.addPath(m_directory->path());
+    GlobalHelper::setProjectTempIODir(m_directory->path());
+    m_isLoading = false;
+}
+
+void Project::unload()
+{
+    SelectedDataManager::getInstance()->clearAllSelectedTarget();
+    MeshManager::instance()->clear();
+    GeometryManager::instance()->clear();
+    RelativeCoordinateSystemDate::getInstance()->resetData();
+    MaterialLibraryManager::getInstance()->clearProjectMaterial();
+}
+
+void Project::load()
+{
+    m_isLoading = true;
+    const QString directory = m_directory->path();
+    if (ProjectFiles::areMaterialsUnreadable(directory)) {
+        fail(tr("The materials of the project %1 cannot be read: %2"), m_path,
+             tr("they were saved with another key, or are damaged. The file is kept in the project"));
+    }
+    MaterialLibraryManager::getInstance()->initProjectMaterial();
+    RelativeCoordinateSystemDate::getInstance()->readConfig();
+    GeometryManager::instance()->load(ProjectFiles::geometry(directory));
+    MeshManager::instance()->restore(ProjectFiles::mesh(directory));
+    m_isLoading = false;
+    setModified(false);
+}
+
+void Project::close()
+{
+    m_isLoading = true;
+    unload();
+    GlobalHelper::setProjectTempIODir(QString());
+    m_watcher.removePath(m_directory->path());
+    m_directory.reset();
+    m_path.clear();
+}
+
+} // namespace Workbench
