@@ -75,6 +75,8 @@ public:
     bool isGroupShown(int kernelID, int groupID) const;
     /// Places of the group's elements, ascending; none when there is no such group.
     std::vector<int> getGroupElements(int kernelID, int groupID) const;
+    /// The physical tag of a group of the file; 0 for others.
+    int getGroupPhysicalTag(int kernelID, int groupID) const;
     int getGroupSize(int kernelID, int groupID) const;
     /// Whether an element, by its place, is to be seen: its kernel and no group of it is hidden.
     std::vector<char> shownElements(int kernelID) const;

@@ -135,6 +135,12 @@ std::vector<int> MeshManager::getGroupElements(int kernelID, int groupID) const
     return elements;
 }
 
+int MeshManager::getGroupPhysicalTag(int kernelID, int groupID) const
+{
+    const Group* found = group(kernelID, groupID);
+    return found == nullptr ? 0 : found->physicalTag;
+}
+
 int MeshManager::getGroupSize(int kernelID, int groupID) const
 {
     return static_cast<int>(getGroupElements(kernelID, groupID).size());

@@ -20,7 +20,10 @@ using BaseModule::IBaseSignal;
 
 namespace Workbench {
 
-QString Project::name() const { return m_path.isEmpty() ? tr("Untitled") : QFileInfo(m_path).completeBaseName(); }
+QString Project::name() const
+{
+    return m_path.isEmpty() ? tr("Untitled") : QFileInfo(m_path).completeBaseName();
+}
 
 // The library saves materials by itself and tells nobody: their file shows it.
 QDateTime Project::materialsSaved() const
@@ -29,7 +32,10 @@ QDateTime Project::materialsSaved() const
     return QFileInfo(path).lastModified();
 }
 
-bool Project::isModified() const { return m_isModified || materialsSaved() != m_materialsSaved; }
+bool Project::isModified() const
+{
+    return m_isModified || materialsSaved() != m_materialsSaved;
+}
 
 void Project::setModified(bool isModified)
 {
@@ -78,7 +84,10 @@ bool Project::fail(const QString& text, const QString& path, const QString& prob
     return false;
 }
 
-bool Project::save() { return saveAs(m_path); }
+bool Project::save()
+{
+    return saveAs(m_path);
+}
 
 bool Project::saveAs(const QString& path)
 {

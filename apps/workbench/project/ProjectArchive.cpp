@@ -22,7 +22,10 @@ namespace {
 constexpr qint64 blockSize = 1 << 20;
 constexpr int fastestCompression = 1; // meshes are large, and the second halving costs three times the time
 
-QString say(const char* text) { return QCoreApplication::translate("Workbench::ProjectArchive", text); }
+QString say(const char* text)
+{
+    return QCoreApplication::translate("Workbench::ProjectArchive", text);
+}
 
 // All of `from`, but no more than `most` bytes.
 bool copyContent(QIODevice& from, QIODevice& to, qint64 most)

@@ -20,13 +20,31 @@ namespace {
 
 constexpr int formatVersion = 1;
 
-QString description(const QString& directory) { return directory + QStringLiteral("/project.json"); }
-QString keyFormat() { return QStringLiteral("format"); }
-QString keyVersion() { return QStringLiteral("version"); }
-QString keyGeometry() { return QStringLiteral("geometryFile"); }
-QString formatName() { return QStringLiteral("workbench project"); }
+QString description(const QString& directory)
+{
+    return directory + QStringLiteral("/project.json");
+}
+QString keyFormat()
+{
+    return QStringLiteral("format");
+}
+QString keyVersion()
+{
+    return QStringLiteral("version");
+}
+QString keyGeometry()
+{
+    return QStringLiteral("geometryFile");
+}
+QString formatName()
+{
+    return QStringLiteral("workbench project");
+}
 
-QString say(const char* text) { return QCoreApplication::translate("Workbench::ProjectFiles", text); }
+QString say(const char* text)
+{
+    return QCoreApplication::translate("Workbench::ProjectFiles", text);
+}
 
 QJsonObject readObject(const QString& path)
 {
@@ -46,9 +64,15 @@ QString ProjectFiles::coordinateSystems(const QString& directory)
     return directory + QStringLiteral("/RelativeCoordinateSystemDate.json");
 }
 
-QString ProjectFiles::geometry(const QString& directory) { return directory + QStringLiteral("/geometry.json"); }
+QString ProjectFiles::geometry(const QString& directory)
+{
+    return directory + QStringLiteral("/geometry.json");
+}
 
-QString ProjectFiles::mesh(const QString& directory) { return directory + QStringLiteral("/mesh.json"); }
+QString ProjectFiles::mesh(const QString& directory)
+{
+    return directory + QStringLiteral("/mesh.json");
+}
 
 QString ProjectFiles::geometrySource(const QString& directory, const QString& geometryName)
 {

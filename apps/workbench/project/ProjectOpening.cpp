@@ -73,8 +73,8 @@ bool Project::open(const QString& path)
 {
     auto directory = std::make_unique<WorkingDirectory>();
     ProjectFiles::Description description;
-    QString problem = directory->isValid() ? ProjectArchive::unpack(path, directory->path())
-                                           : tr("no working directory can be made");
+    QString problem =
+        directory->isValid() ? ProjectArchive::unpack(path, directory->path()) : tr("no working directory can be made");
     if (problem.isEmpty()) {
         problem = ProjectFiles::check(directory->path(), description);
     }

@@ -9,7 +9,10 @@
 namespace Workbench {
 namespace {
 
-QString key() { return QStringLiteral("recentProjects"); }
+QString key()
+{
+    return QStringLiteral("recentProjects");
+}
 
 } // namespace
 

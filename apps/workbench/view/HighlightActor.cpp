@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <workbench/view/HighlightActor.h>
+
+#include <workbench/geometry/GeometryManager.h>
+#include <workbench/mesh/MeshManager.h>
+#include <workbench/view/FaceColours.h>
+#include <workbench/view/HighlightState.h>
+#include <workbench/view/SkinData.h>
+
+#include <basemodule/SelectModel.h>
+
+#include <vtkActor.h>
+#include <vtkCellArray.h>
+#include <vtkNew.h>
+#include <vtkPoints.h>
+#include <vtkPolyData.h>
+#include <vtkPolyDataMapper.h>
+#include <vtkProperty.h>
+
+#include <algorithm>
+
+namespace Workbench {
+namespace {
+
+using Corners = std::vector<std::array<int, 3>>;
+
+vtkSmartPointer<vtkActor> makeActor()
+{
+    const auto actor = vtkSmartPointer<vtkActor>::New();
+    const auto mapper = vtkSmartPointer<vtkPolyDataMapper>::New();
+    mapper->ScalarVisibilityOff();
+    mapper->SetResolveCoincidentTopologyToPolygonOffset();
+    actor->SetMapper(mapper);
+    actor->PickableOff();
+    actor->SetVisibility(false);
+    vtkProperty* property = actor->GetProperty();
+    property->SetColor(highlightColour[0] / 255.0, highlightColour[1] / 255.0, highlightColour[2] / 255.0);
+    property->SetAmbient(0.35);
+    property->SetDiffuse(0.7);
+    property->SetInterpolationToFlat();
+    property->SetEdgeVisibility(true);
+    property->SetEdgeColor(0.45, 0.22, 0.0);
+    return actor;
+}
+
+// Elements of the highlighted groups, marked.
+std::vector<char> groupElements(int kernelID, const KernelMesh& mesh, const HighlightState& state)
+{
+    std::vector<char> marked(static_cast<std::size_t>(mesh.report.elementCount()), 0);
+    for (const HighlightState::Item& item : state.items(BaseModule::MeshGroup)) {
+        for (int place : item.first == kernelID ? MeshManager::instance()->getGroupElements(kernelID, item.second)
+                                                : std::vector<int>()) {
+            marked[static_cast<std::size_t>(place)] = 1;
+        }
+    }
+    return marked;
+}
+
+// Which patches of the mesh are highlighted, as faces or with their volume.
+std::vector<char> markedPatches(int kernelID, const KernelMesh& mesh, const HighlightState& state)
+{
+    const GeometryManager* geometry = GeometryManager::instance();
+    const QSet<HighlightState::Item> volumes = state.items(BaseModule::GeometryComponent);
+    const QSet<HighlightState::Item> faces = state.items(BaseModule::GeometryFace);
+    std::vector<char> marked;
+    for (const FacePatch& patch : mesh.patches) {
+        const int componentID = geometry->componentOfVolume(kernelID, patch.volumeTag);
+        const bool isShown = geometry->isComponentShown(componentID);
+        marked.push_back(isShown && (volumes.contains({componentID, -1}) || faces.contains({componentID, patch.faceID})));
+    }
+    return marked;
+}
+
+Corners surfaceCorners(int kernelID, const KernelMesh& mesh, const HighlightState& state)
+{
+    const bool areGroups = !state.items(BaseModule::MeshGroup).isEmpty();
+    const std::vector<char> elements = areGroups ? groupElements(kernelID, mesh, state) : std::vector<char>();
+    const std::vector<char> patches = markedPatches(kernelID, mesh, state);
+    Corners corners;
+    for (const BoundaryFace& face : mesh.faces) {
+        if (patches[static_cast<std::size_t>(face.patch)] != 0 ||
+            (areGroups && elements[static_cast<std::size_t>(face.element)] != 0)) {
+            corners.push_back(face.nodes);
+        }
+    }
+    return corners;
+}
+
+Corners elementCorners(int kernelID, const KernelMesh& mesh, const HighlightState& state)
+{
+    Corners corners;
+    for (const HighlightState::Item& item : state.items(BaseModule::MeshElement)) {
+        const int place = item.first == kernelID ? mesh.elementNumbers.place(item.second) : -1;
+        if (place >= 0) {
+            const Corners sides = sidesOfElement(mesh, place);
+            corners.insert(corners.end(), sides.begin(), sides.end());
+        }
+    }
+    return corners;
+}
+
+std::vector<int> nodePlaces(int kernelID, const KernelMesh& mesh, const HighlightState& state)
+{
+    std::vector<int> places;
+    for (const HighlightState::Item& item : state.items(BaseModule::MeshNode)) {
+        if (item.first == kernelID && item.second >= 1 && item.second <= mesh.report.nodeCount()) {
+            places.push_back(item.second - 1);
+        }
+    }
+    return places;
+}
+
+} // namespace
+
+HighlightActor::HighlightActor() : m_surfaces(makeActor()), m_elements(makeActor()), m_nodes(makeActor())
+{
+    m_nodes->GetProperty()->SetPointSize(9);
+    m_nodes->GetProperty()->SetEdgeVisibility(false);
+    m_nodes->GetProperty()->LightingOff();
+    m_nodes->GetProperty()->RenderPointsAsSpheresOn();
+}
+
+HighlightActor::~HighlightActor() = default;
+
+vtkActor* HighlightActor::surfaces() const { return m_surfaces; }
+
+vtkActor* HighlightActor::elements() const { return m_elements; }
+
+vtkActor* HighlightActor::nodes() const { return m_nodes; }
+
+void HighlightActor::update(int kernelID, const KernelMesh& mesh, const HighlightState& state)
+{
+    setTriangles(*m_surfaces, mesh, surfaceCorners(kernelID, mesh, state));
+    setTriangles(*m_elements, mesh, elementCorners(kernelID, mesh, state));
+    setPoints(mesh, nodePlaces(kernelID, mesh, state));
+}
+
+void HighlightActor::setTriangles(vtkActor& actor, const KernelMesh& mesh, const Corners& corners)
+{
+    actor.SetVisibility(!corners.empty());
+    vtkPolyDataMapper::SafeDownCast(actor.GetMapper())->SetInputData(makeSkinData(mesh, corners).triangles);
+}
+
+void HighlightActor::setPoints(const KernelMesh& mesh, const std::vector<int>& places)
+{
+    vtkNew<vtkPoints> points;
+    vtkNew<vtkCellArray> vertices;
+    vtkNew<vtkPolyData> data;
+    for (int place : places) {
+        const vtkIdType point = points->InsertNextPoint(mesh.report.node(place).data());
+        vertices->InsertNextCell(1, &point);
+    }
+    data->SetPoints(points);
+    data->SetVerts(vertices);
+    m_nodes->SetVisibility(!places.empty());
+    vtkPolyDataMapper::SafeDownCast(m_nodes->GetMapper())->SetInputData(data);
+}
+
+} // namespace Workbench
