@@ -35,8 +35,9 @@ public:
 
     void join(std::size_t a, std::size_t b)
     {
-        const auto [low, high] = std::minmax(root(a), root(b));
-        m_parent[high] = low;
+        const std::size_t rootA = root(a);
+        const std::size_t rootB = root(b);
+        m_parent[std::max(rootA, rootB)] = std::min(rootA, rootB);
     }
 
 private:

@@ -4,10 +4,11 @@
 #include <workbench/view/CameraMotion.h>
 
 #include <vtkCamera.h>
-#include <vtkMath.h>
+#include <vtkMatrix4x4.h>
 #include <vtkRenderer.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace Workbench {
 namespace {
@@ -109,10 +110,29 @@ void CameraMotion::zoom(double factor, double x, double y)
 
 void CameraMotion::fit()
 {
-    m_renderer.ResetCamera();
+    m_renderer.ResetCamera(); // around the sphere that encloses everything
     vtkCamera* camera = m_renderer.GetActiveCamera();
-    camera->SetParallelScale(camera->GetParallelScale() * 0.75);
+    double box[6];
+    m_renderer.ComputeVisiblePropBounds(box);
+    if (box[0] <= box[1]) {
+        camera->SetParallelScale(1.08 * halfHeight(box));
+    }
     m_renderer.ResetCameraClippingRange();
+}
+
+// Half the height of the window that shows the box just so.
+double CameraMotion::halfHeight(const double box[6]) const
+{
+    const int* size = m_renderer.GetSize();
+    const double aspect = size[1] > 0 && size[0] > 0 ? static_cast<double>(size[0]) / size[1] : 1;
+    double half = 0;
+    for (int corner = 0; corner < 8; ++corner) {
+        const double world[4] = {box[corner & 1], box[2 + ((corner >> 1) & 1)], box[4 + ((corner >> 2) & 1)], 1};
+        double seen[4];
+        m_renderer.GetActiveCamera()->GetViewTransformMatrix()->MultiplyPoint(world, seen);
+        half = std::max({half, std::abs(seen[1]), std::abs(seen[0]) / aspect});
+    }
+    return half > 0 ? half : 1;
 }
 
 void CameraMotion::lookFrom(ViewCommands::Direction direction)

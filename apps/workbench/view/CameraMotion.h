@@ -29,6 +29,7 @@ public:
     void lookAt(const double centre[3], double radius);
 
 private:
+    double halfHeight(const double box[6]) const;
     void worldOfDisplay(double x, double y, double world[3]) const;
 
     vtkRenderer& m_renderer;

@@ -21,6 +21,7 @@
 #include <vtkActor.h>
 #include <vtkAxesActor.h>
 #include <vtkCamera.h>
+#include <vtkLightKit.h>
 #include <vtkNew.h>
 #include <vtkOrientationMarkerWidget.h>
 #include <vtkPolyData.h>
@@ -47,7 +48,12 @@ Scene::Scene()
     m_renderer->GradientBackgroundOn();
     m_renderer->GetActiveCamera()->ParallelProjectionOn();
     m_renderer->AddActor(m_scale.legend());
-    m_renderer->UseFXAAOn();
+    m_renderer->AutomaticLightCreationOff();
+    vtkNew<vtkLightKit> lights;
+    lights->SetKeyLightIntensity(0.85);
+    lights->SetKeyToFillRatio(2);
+    lights->SetKeyToHeadRatio(2.5);
+    lights->AddLightsToRenderer(m_renderer);
     int layer = 1;
     for (vtkRenderer* renderer : {m_front.Get(), m_axes.Get()}) {
         renderer->SetLayer(layer++);

@@ -3,42 +3,99 @@
 
 #include <workbench/window/MainWindow.h>
 
+#include <workbench/project/Project.h>
+#include <workbench/property/PropertyTable.h>
+#include <workbench/selection/ProjectTree.h>
+#include <workbench/view/View3D.h>
+#include <workbench/window/MessagePanel.h>
+#include <workbench/window/TaskBar.h>
+
 #include <QDockWidget>
+#include <QEvent>
 #include <QMenu>
-#include <QMenuBar>
+#include <QSettings>
+#include <QStatusBar>
 
 namespace Workbench {
 
 MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent)
 {
-    setWindowTitle(QStringLiteral("Workbench"));
+    Project::instance();
+    setObjectName(QStringLiteral("MainWindow"));
     resize(1500, 900);
+    setAcceptDrops(true);
     setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks);
-    m_viewMenu = menuBar()->addMenu(tr("&View"));
+    setTabPosition(Qt::RightDockWidgetArea, QTabWidget::North);
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    setCentralWidget(new View3D(this));
+    createMenus();
+    createToolBars();
     createDocks();
+    statusBar()->addPermanentWidget(new TaskBar(this));
+    listen();
+    retranslate();
+    restoreLayout();
 }
 
 MainWindow::~MainWindow() = default;
 
 void MainWindow::createDocks()
 {
+    addDock(new ProjectTree(this), Qt::LeftDockWidgetArea);
+    addDock(new PropertyTable(this), Qt::LeftDockWidgetArea, true);
+    QDockWidget* messages = addDock(new MessagePanel(this), Qt::BottomDockWidgetArea);
     // A room is added by one line: addDock(new View(this), Qt::RightDockWidgetArea);
+    resizeDocks({messages}, {130}, Qt::Vertical);
 }
 
-void MainWindow::addDock(QWidget* view, Qt::DockWidgetArea area)
+QDockWidget* MainWindow::addDock(QWidget* view, Qt::DockWidgetArea area, bool isBeside)
 {
+    QDockWidget* neighbour = nullptr;
+    for (QDockWidget* other : findChildren<QDockWidget*>()) {
+        neighbour = dockWidgetArea(other) == area ? other : neighbour;
+    }
     auto* dock = new QDockWidget(view->windowTitle(), this);
     dock->setObjectName(QString::fromLatin1(view->metaObject()->className()));
     dock->setWidget(view);
     connect(view, &QWidget::windowTitleChanged, dock, &QDockWidget::setWindowTitle);
-    const QList<QDockWidget*> others = findChildren<QDockWidget*>();
     addDockWidget(area, dock);
-    for (QDockWidget* other : others) {
-        if (other != dock && dockWidgetArea(other) == area) {
-            tabifyDockWidget(other, dock);
-        }
+    if (neighbour != nullptr && !isBeside) {
+        tabifyDockWidget(neighbour, dock);
+        neighbour->raise();
     }
-    m_viewMenu->addAction(dock->toggleViewAction());
+    m_docksMenu->addAction(dock->toggleViewAction());
+    return dock;
+}
+
+void MainWindow::restoreLayout()
+{
+    const QSettings settings;
+    restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray());
+    restoreState(settings.value(QStringLiteral("window/docks")).toByteArray());
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::retranslate()
+{
+    for (const Text& text : qAsConst(m_texts)) {
+        text.set(tr(text.source));
+    }
+    updateRecent();
+    updateTitle();
+}
+
+void MainWindow::updateTitle()
+{
+    setWindowTitle(QStringLiteral("%1[*] – %2").arg(Project::instance()->name(), tr("Workbench")));
+    setWindowModified(Project::instance()->isModified());
 }
 
 } // namespace Workbench

@@ -3,11 +3,20 @@
 
 #pragma once
 
+#include <QList>
 #include <QMainWindow>
 
+#include <functional>
+
+class QAction;
+class QActionGroup;
+class QDockWidget;
 class QMenu;
+class QToolBar;
 
 namespace Workbench {
+
+enum class IconName : int;
 
 /// The window that places the views into docks and carries menu actions to the managers. Views know nothing of it.
 class MainWindow : public QMainWindow
@@ -18,12 +27,63 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-private:
-    void createDocks();
-    /// Puts a view into a dock of its own, whose title follows the view's window title. Docks of one area are tabs.
-    void addDock(QWidget* view, Qt::DockWidgetArea area);
+    /// Opens a project, a mesh or a geometry, by the suffix of its name; a project after asking for unsaved work.
+    void openFile(const QString& path);
 
-    QMenu* m_viewMenu = nullptr;
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    /// A text that is translated again when the language changes.
+    struct Text
+    {
+        std::function<void(const QString& text)> set;
+        const char* source;
+    };
+
+    void createDocks();
+    /// Puts a view into a dock of its own, whose title follows the view's window title. It becomes a tab of the last
+    /// dock of its area, or, where it `isBeside`, stands below it.
+    QDockWidget* addDock(QWidget* view, Qt::DockWidgetArea area, bool isBeside = false);
+
+    void createMenus();
+    void createFileMenu();
+    void createEditMenu();
+    void createSelectMenu();
+    void createViewMenu();
+    void createMeshMenu();
+    void createSettingsMenu();
+    void createToolBars();
+    QMenu* addMenu(const char* source);
+    QAction* addAction(QMenu* menu, const char* source, const std::function<void()>& run);
+    QAction* addModeAction(QMenu* menu, const char* source, QActionGroup* group, int value);
+    void listen();
+    void updateActions();
+    void updateTitle();
+    void updateRecent();
+    void retranslate();
+
+    bool mayDiscard();
+    bool save();
+    bool saveAs();
+    void open();
+    void openProject(const QString& path);
+    void openGeometry(const QString& path);
+    void mesh();
+    void saveScreenshot();
+    void restoreLayout();
+
+    QList<Text> m_texts;
+    QMenu* m_recentMenu = nullptr;
+    QMenu* m_docksMenu = nullptr;
+    QActionGroup* m_interactionModes = nullptr;
+    QActionGroup* m_selectModels = nullptr;
+    QAction* m_mesh = nullptr;
+    QAction* m_clearSelection = nullptr;
+    QList<QAction*> m_toolActions;
 };
 
 } // namespace Workbench

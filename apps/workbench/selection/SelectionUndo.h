@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#pragma once
+
+#include <QList>
+#include <QMap>
+#include <QObject>
+#include <QPair>
+
+class QUndoStack;
+
+namespace Workbench {
+
+/// Makes every change of the selection undoable, whoever made it. Undoing goes through the selection store like any
+/// other change, and selects only what still exists. Opening a project or a mesh forgets all steps.
+class SelectionUndo : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The selected pairs by select model.
+    using Selection = QMap<int, QList<QPair<int, int>>>;
+
+    /// The undo of the process, created by the first call and never destroyed.
+    static SelectionUndo* instance();
+
+    QUndoStack* stack() const { return m_stack; }
+    /// Makes the store hold exactly this selection.
+    void restore(const Selection& selection);
+    void forget();
+
+private:
+    SelectionUndo();
+    ~SelectionUndo() override = default;
+
+    void noteChange();
+
+    QUndoStack* m_stack;
+    Selection m_known;
+    bool m_isRestoring = false;
+};
+
+} // namespace Workbench
