@@ -24,7 +24,10 @@ using DataModel::PropertyTableData;
 namespace Workbench {
 namespace {
 
-QString number(double value) { return QString::number(value, 'g', 9); }
+QString number(double value)
+{
+    return QString::number(value, 'g', 9);
+}
 
 QString point(double x, double y, double z)
 {

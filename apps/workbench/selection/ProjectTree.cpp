@@ -103,7 +103,8 @@ void ProjectTree::rebuild()
 QTreeWidgetItem* ProjectTree::makeItem(const ProjectTreeLine& line, const QString& path)
 {
     auto* item = new QTreeWidgetItem({line.text, line.details});
-    item->setData(0, Qt::UserRole, QVariantList{static_cast<int>(line.kind), line.selectModel, line.firstID, line.secondID});
+    item->setData(0, Qt::UserRole,
+                  QVariantList{static_cast<int>(line.kind), line.selectModel, line.firstID, line.secondID});
     item->setData(1, Qt::UserRole, path);
     item->setForeground(1, palette().brush(QPalette::Disabled, QPalette::Text));
     item->setToolTip(0, line.text);
@@ -126,8 +127,8 @@ QTreeWidgetItem* ProjectTree::makeItem(const ProjectTreeLine& line, const QStrin
 // Headings and meshes are open at first, volumes are not.
 void ProjectTree::restoreExpansion(QTreeWidgetItem* item)
 {
-    const bool isOpenAtFirst = item->data(0, Qt::UserRole).toList().value(0).toInt() !=
-                               static_cast<int>(ProjectTreeLine::Kind::Volume);
+    const bool isOpenAtFirst =
+        item->data(0, Qt::UserRole).toList().value(0).toInt() != static_cast<int>(ProjectTreeLine::Kind::Volume);
     item->setExpanded(m_isExpanded.value(item->data(1, Qt::UserRole).toString(), isOpenAtFirst));
     for (int i = 0; i < item->childCount(); ++i) {
         restoreExpansion(item->child(i));

@@ -42,8 +42,7 @@ Line faceLine(int componentID, int faceID)
     Line line;
     line.kind = Line::Kind::Face;
     line.text = geometry->getFaceName(componentID, faceID);
-    line.details = ProjectTree::tr("%1 triangles")
-                       .arg(geometry->getFaceTriangleCount(componentID, faceID));
+    line.details = ProjectTree::tr("%1 triangles").arg(geometry->getFaceTriangleCount(componentID, faceID));
     line.selectModel = BaseModule::GeometryFace;
     line.firstID = componentID;
     line.secondID = faceID;
@@ -78,8 +77,7 @@ Line groupLine(int kernelID, int groupID)
     Line line;
     line.kind = Line::Kind::Group;
     line.text = meshes->getGroupName(kernelID, groupID);
-    line.details =
-        ProjectTree::tr("%1 elements").arg(meshes->getGroupSize(kernelID, groupID));
+    line.details = ProjectTree::tr("%1 elements").arg(meshes->getGroupSize(kernelID, groupID));
     line.selectModel = BaseModule::MeshGroup;
     line.firstID = kernelID;
     line.secondID = groupID;
@@ -97,8 +95,7 @@ Line meshesLine()
         Line line;
         line.kind = Line::Kind::Mesh;
         line.text = meshes->getKernelName(kernelID);
-        line.details =
-            ProjectTree::tr("%1 elements").arg(meshes->getElementCount(kernelID));
+        line.details = ProjectTree::tr("%1 elements").arg(meshes->getElementCount(kernelID));
         line.firstID = kernelID;
         for (int groupID : meshes->findGroups(kernelID, QString())) {
             line.children.append(groupLine(kernelID, groupID));
@@ -112,8 +109,7 @@ Line materialsLine()
 {
     Line heading;
     heading.text = ProjectTree::tr("Materials");
-    for (const auto& material :
-         MaterialLibraryManager::getInstance()->getMatLibDataByType(BaseModule::ProjectLib)) {
+    for (const auto& material : MaterialLibraryManager::getInstance()->getMatLibDataByType(BaseModule::ProjectLib)) {
         if (!material || material->isDeleted) {
             continue;
         }

@@ -19,16 +19,25 @@ using DataManager::SelectedDataManager;
 namespace Workbench {
 namespace {
 
-int value(const QTreeWidgetItem* item, int place) { return item->data(0, Qt::UserRole).toList().value(place).toInt(); }
+int value(const QTreeWidgetItem* item, int place)
+{
+    return item->data(0, Qt::UserRole).toList().value(place).toInt();
+}
 
 ProjectTreeLine::Kind kindOf(const QTreeWidgetItem* item)
 {
     return static_cast<ProjectTreeLine::Kind>(value(item, 0));
 }
 
-int modelOf(const QTreeWidgetItem* item) { return value(item, 1); }
+int modelOf(const QTreeWidgetItem* item)
+{
+    return value(item, 1);
+}
 
-QPair<int, int> pairOf(const QTreeWidgetItem* item) { return {value(item, 2), value(item, 3)}; }
+QPair<int, int> pairOf(const QTreeWidgetItem* item)
+{
+    return {value(item, 2), value(item, 3)};
+}
 
 } // namespace
 

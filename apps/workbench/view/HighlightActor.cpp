@@ -68,7 +68,8 @@ std::vector<char> markedPatches(int kernelID, const KernelMesh& mesh, const High
     for (const FacePatch& patch : mesh.patches) {
         const int componentID = geometry->componentOfVolume(kernelID, patch.volumeTag);
         const bool isShown = geometry->isComponentShown(componentID);
-        marked.push_back(isShown && (volumes.contains({componentID, -1}) || faces.contains({componentID, patch.faceID})));
+        marked.push_back(isShown &&
+                         (volumes.contains({componentID, -1}) || faces.contains({componentID, patch.faceID})));
     }
     return marked;
 }
@@ -124,11 +125,20 @@ HighlightActor::HighlightActor() : m_surfaces(makeActor()), m_elements(makeActor
 
 HighlightActor::~HighlightActor() = default;
 
-vtkActor* HighlightActor::surfaces() const { return m_surfaces; }
+vtkActor* HighlightActor::surfaces() const
+{
+    return m_surfaces;
+}
 
-vtkActor* HighlightActor::elements() const { return m_elements; }
+vtkActor* HighlightActor::elements() const
+{
+    return m_elements;
+}
 
-vtkActor* HighlightActor::nodes() const { return m_nodes; }
+vtkActor* HighlightActor::nodes() const
+{
+    return m_nodes;
+}
 
 void HighlightActor::update(int kernelID, const KernelMesh& mesh, const HighlightState& state)
 {

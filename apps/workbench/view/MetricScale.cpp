@@ -76,9 +76,15 @@ MetricScale::MetricScale()
 
 MetricScale::~MetricScale() = default;
 
-vtkLookupTable* MetricScale::table() const { return m_table; }
+vtkLookupTable* MetricScale::table() const
+{
+    return m_table;
+}
 
-vtkScalarBarActor* MetricScale::legend() const { return m_legend; }
+vtkScalarBarActor* MetricScale::legend() const
+{
+    return m_legend;
+}
 
 void MetricScale::setMetric(const MeshQualityReport& report, MeshQualityReport::Metric metric)
 {
@@ -94,6 +100,9 @@ void MetricScale::setMetric(const MeshQualityReport& report, MeshQualityReport::
     m_legend->SetTitle(MeshQualityReport::metricName(metric).toUtf8().constData());
 }
 
-void MetricScale::showLegend(bool isShown) { m_legend->SetVisibility(isShown); }
+void MetricScale::showLegend(bool isShown)
+{
+    m_legend->SetVisibility(isShown);
+}
 
 } // namespace Workbench

@@ -22,6 +22,7 @@
 #include <vtkAxesActor.h>
 #include <vtkCamera.h>
 #include <vtkLightKit.h>
+#include <vtkLookupTable.h>
 #include <vtkNew.h>
 #include <vtkOrientationMarkerWidget.h>
 #include <vtkPolyData.h>
@@ -30,7 +31,6 @@
 #include <vtkRenderWindow.h>
 #include <vtkRenderWindowInteractor.h>
 #include <vtkRenderer.h>
-#include <vtkLookupTable.h>
 #include <vtkScalarBarActor.h>
 #include <vtkStaticCellLocator.h>
 
@@ -73,7 +73,10 @@ Scene::Scene()
 
 Scene::~Scene() = default;
 
-vtkRenderer& Scene::renderer() { return *m_renderer; }
+vtkRenderer& Scene::renderer()
+{
+    return *m_renderer;
+}
 
 void Scene::addTo(vtkRenderWindow& window)
 {
@@ -180,8 +183,7 @@ void Scene::updateColours()
 void Scene::updateLook()
 {
     const MeshDisplay* display = MeshDisplay::instance();
-    const bool areNodes =
-        DataManager::SelectedDataManager::getInstance()->getSelectModel() == BaseModule::MeshNode;
+    const bool areNodes = DataManager::SelectedDataManager::getInstance()->getSelectModel() == BaseModule::MeshNode;
     for (const auto& [kernelID, skin] : m_skins) {
         skin->setTransparency(display->transparency());
         skin->showEdges(display->areEdgesShown());
@@ -230,6 +232,9 @@ bool Scene::focusElement(int kernelID, int elementID)
     return true;
 }
 
-void Scene::dropFocus() { m_focus->SetVisibility(false); }
+void Scene::dropFocus()
+{
+    m_focus->SetVisibility(false);
+}
 
 } // namespace Workbench

@@ -10,11 +10,11 @@
 #include <vtkCellData.h>
 #include <vtkDoubleArray.h>
 #include <vtkLookupTable.h>
-#include <vtkScalarBarActor.h>
 #include <vtkNew.h>
 #include <vtkPolyData.h>
 #include <vtkPolyDataMapper.h>
 #include <vtkProperty.h>
+#include <vtkScalarBarActor.h>
 #include <vtkStaticCellLocator.h>
 #include <vtkUnsignedCharArray.h>
 
@@ -32,8 +32,6 @@ SkinActor::SkinActor(const QSharedPointer<const KernelMesh>& mesh)
     m_mapper->SetRelativeCoincidentTopologyPolygonOffsetParameters(2, 2);
     vtkProperty* property = m_actor->GetProperty();
     property->SetInterpolationToFlat();
-    property->SetAmbient(0.18);
-    property->SetDiffuse(0.85);
     property->SetEdgeColor(0.28, 0.33, 0.38);
     property->SetVertexColor(0.15, 0.25, 0.45);
     property->SetPointSize(4);
@@ -42,9 +40,15 @@ SkinActor::SkinActor(const QSharedPointer<const KernelMesh>& mesh)
 
 SkinActor::~SkinActor() = default;
 
-vtkActor* SkinActor::actor() const { return m_actor; }
+vtkActor* SkinActor::actor() const
+{
+    return m_actor;
+}
 
-vtkStaticCellLocator* SkinActor::locator() const { return m_locator; }
+vtkStaticCellLocator* SkinActor::locator() const
+{
+    return m_locator;
+}
 
 void SkinActor::show(const std::function<bool(int)>& isShown)
 {
@@ -72,6 +76,8 @@ void SkinActor::colourByFace()
     }
     m_skin.triangles->GetCellData()->SetScalars(colours);
     m_mapper->SetColorModeToDirectScalars();
+    m_actor->GetProperty()->SetAmbient(0.18);
+    m_actor->GetProperty()->SetDiffuse(0.85);
 }
 
 void SkinActor::colourByMetric(DataManager::MeshQualityReport::Metric metric, const MetricScale& scale)
@@ -86,13 +92,25 @@ void SkinActor::colourByMetric(DataManager::MeshQualityReport::Metric metric, co
     m_mapper->SetColorModeToMapScalars();
     m_mapper->SetLookupTable(scale.table());
     m_mapper->UseLookupTableScalarRangeOn();
+    // Less shade, so that colours are those of the legend.
+    m_actor->GetProperty()->SetAmbient(0.55);
+    m_actor->GetProperty()->SetDiffuse(0.5);
 }
 
-void SkinActor::setTransparency(double transparency) { m_actor->GetProperty()->SetOpacity(1 - transparency); }
+void SkinActor::setTransparency(double transparency)
+{
+    m_actor->GetProperty()->SetOpacity(1 - transparency);
+}
 
-void SkinActor::showEdges(bool areShown) { m_actor->GetProperty()->SetEdgeVisibility(areShown); }
+void SkinActor::showEdges(bool areShown)
+{
+    m_actor->GetProperty()->SetEdgeVisibility(areShown);
+}
 
-void SkinActor::showNodes(bool areShown) { m_actor->GetProperty()->SetVertexVisibility(areShown); }
+void SkinActor::showNodes(bool areShown)
+{
+    m_actor->GetProperty()->SetVertexVisibility(areShown);
+}
 
 const BoundaryFace& SkinActor::faceOfCell(vtkIdType cell) const
 {

@@ -12,8 +12,8 @@
 #include <workbench/view/ViewCommands.h>
 
 #include <basemodule/IBaseSignal.h>
-#include <datamodel/SelectedDataBase.h>
 #include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
+#include <datamodel/SelectedDataBase.h>
 
 #include <QDir>
 #include <QRubberBand>
@@ -64,7 +64,8 @@ void View3D::listenToManagers()
     connect(meshes, &MeshManager::signal_groupDataListDeleted, this, [this] { note(Visibility | Highlight); });
     connect(meshes, &MeshManager::signal_visibilityChanged, this, [this] { note(Visibility | Highlight); });
     const GeometryManager* geometry = GeometryManager::instance();
-    connect(geometry, &GeometryManager::signal_componentListDataChanged, this, [this] { note(Visibility | Highlight); });
+    connect(geometry, &GeometryManager::signal_componentListDataChanged, this,
+            [this] { note(Visibility | Highlight); });
     connect(geometry, &GeometryManager::signal_componentListRemoved, this, [this] { note(Visibility | Highlight); });
     const MeshDisplay* display = MeshDisplay::instance();
     connect(display, &MeshDisplay::signal_colouringChanged, this, [this] { note(Colours); });

@@ -137,8 +137,8 @@ void View3D::release(QMouseEvent* event)
     if (event->button() != m_button) {
         return;
     }
-    const bool isSelecting = m_button == Qt::LeftButton &&
-                             InteractionManager::getInstance()->getInteractionMode() == BaseModule::Select;
+    const bool isSelecting =
+        m_button == Qt::LeftButton && InteractionManager::getInstance()->getInteractionMode() == BaseModule::Select;
     const bool wasDragging = m_isDragging;
     stopDragging();
     if (isSelecting && wasDragging) {

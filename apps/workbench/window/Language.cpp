@@ -8,7 +8,10 @@
 namespace Workbench {
 namespace {
 
-QString key() { return QStringLiteral("language"); }
+QString key()
+{
+    return QStringLiteral("language");
+}
 
 } // namespace
 
@@ -23,7 +26,10 @@ Language* Language::instance()
     return language;
 }
 
-void Language::restore() { m_translations.setLanguage(QSettings().value(key()).toString()); }
+void Language::restore()
+{
+    m_translations.setLanguage(QSettings().value(key()).toString());
+}
 
 void Language::choose(const QString& word)
 {

@@ -171,9 +171,8 @@ void MainWindow::createViewMenu()
     right->setIcon(icon(IconName::Right));
     top->setIcon(icon(IconName::Top));
     menu->addSeparator();
-    QAction* edges = addAction(menu, QT_TR_NOOP("&Edges"), [] {
-        MeshDisplay::instance()->showEdges(!MeshDisplay::instance()->areEdgesShown());
-    });
+    QAction* edges = addAction(menu, QT_TR_NOOP("&Edges"),
+                               [] { MeshDisplay::instance()->showEdges(!MeshDisplay::instance()->areEdgesShown()); });
     edges->setCheckable(true);
     edges->setChecked(true);
     edges->setIcon(icon(IconName::Edges));

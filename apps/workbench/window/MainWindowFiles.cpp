@@ -22,7 +22,10 @@
 namespace Workbench {
 namespace {
 
-QString projectFilter() { return MainWindow::tr("Projects (*.%1)").arg(Project::fileSuffix()); }
+QString projectFilter()
+{
+    return MainWindow::tr("Projects (*.%1)").arg(Project::fileSuffix());
+}
 
 } // namespace
 
@@ -60,23 +63,25 @@ void MainWindow::mesh()
 
 void MainWindow::open()
 {
-    const QString filter = tr("All that can be opened (*.%1 *.msh *.geo *.step *.stp *.brep *.iges *.igs)")
-                               .arg(Project::fileSuffix());
+    const QString filter =
+        tr("All that can be opened (*.%1 *.msh *.geo *.step *.stp *.brep *.iges *.igs)").arg(Project::fileSuffix());
     const QStringList filters{filter, projectFilter(), tr("Meshes (*.msh)"),
                               tr("Geometry (*.geo *.step *.stp *.brep *.iges *.igs)")};
-    const QString path =
-        QFileDialog::getOpenFileName(this, tr("Open"), QString(), filters.join(QStringLiteral(";;")));
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open"), QString(), filters.join(QStringLiteral(";;")));
     if (!path.isEmpty()) {
         openFile(path);
     }
 }
 
-bool MainWindow::save() { return Project::instance()->path().isEmpty() ? saveAs() : Project::instance()->save(); }
+bool MainWindow::save()
+{
+    return Project::instance()->path().isEmpty() ? saveAs() : Project::instance()->save();
+}
 
 bool MainWindow::saveAs()
 {
-    QString path = QFileDialog::getSaveFileName(this, tr("Save the project"), Project::instance()->path(),
-                                                projectFilter());
+    QString path =
+        QFileDialog::getSaveFileName(this, tr("Save the project"), Project::instance()->path(), projectFilter());
     if (path.isEmpty()) {
         return false;
     }
@@ -99,8 +104,8 @@ bool MainWindow::mayDiscard()
 
 void MainWindow::saveScreenshot()
 {
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save a picture of the view"), QString(),
-                                                      tr("Pictures (*.png *.jpg)"));
+    const QString path =
+        QFileDialog::getSaveFileName(this, tr("Save a picture of the view"), QString(), tr("Pictures (*.png *.jpg)"));
     if (!path.isEmpty()) {
         ViewCommands::instance()->saveScreenshot(path);
     }

@@ -49,7 +49,10 @@ void TaskBar::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
 }
 
-void TaskBar::retranslate() { m_cancel->setText(tr("Cancel")); }
+void TaskBar::retranslate()
+{
+    m_cancel->setText(tr("Cancel"));
+}
 
 void TaskBar::begin(const QString& text)
 {
@@ -58,7 +61,10 @@ void TaskBar::begin(const QString& text)
     show();
 }
 
-void TaskBar::end() { hide(); }
+void TaskBar::end()
+{
+    hide();
+}
 
 void TaskBar::cancel()
 {
