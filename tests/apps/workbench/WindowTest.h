@@ -6,13 +6,21 @@
 #include <workbench/window/Graphics.h>
 
 #include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 
-// The entry of a test with windows: as QTEST_MAIN, after the view's graphics were prepared.
+// The entry of a test with windows: as QTEST_MAIN, after the view's graphics were prepared. Settings and working
+// directories are the test's own and empty at first.
 #define WORKBENCH_TEST_MAIN(TestClass)                                                                                 \
     int main(int argc, char** argv)                                                                                    \
     {                                                                                                                  \
         Workbench::prepareGraphics();                                                                                  \
+        QApplication::setOrganizationName(QStringLiteral("DataManager"));                                              \
+        QApplication::setApplicationName(QStringLiteral("workbench-test"));                                            \
+        QTemporaryDir home;                                                                                            \
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.filePath(QStringLiteral("config"))));                        \
+        qputenv("XDG_CACHE_HOME", QFile::encodeName(home.filePath(QStringLiteral("cache"))));                          \
         QApplication application(argc, argv);                                                                          \
         QTEST_SET_MAIN_SOURCE_PATH                                                                                     \
         TestClass test;                                                                                                \
