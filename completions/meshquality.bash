@@ -17,16 +17,17 @@ _meshquality()
     return
   fi
   case "$command" in
-    report) options='--json --jsonl --csv --vtu --html --worst --by --histogram --by-region --model --help' ;;
-    check) options='--profile --print-profile --help' ;;
-    compare) options='--model --help' ;;
-    model) options='--json --help' ;;
-    predict) options='--help' ;;
+    report) options='--json --jsonl --csv --vtu --html --worst --by --histogram --by-region --model --language --help' ;;
+    check) options='--profile --print-profile --language --help' ;;
+    compare) options='--model --language --help' ;;
+    model) options='--json --language --help' ;;
+    predict) options='--language --help' ;;
     *) return ;;
   esac
   case "$previous" in
     --by | --histogram) mapfile -t COMPREPLY < <(compgen -W "$metrics" -- "$current"); return ;;
     --worst) return ;;
+    --language) mapfile -t COMPREPLY < <(compgen -W 'English Chinese' -- "$current"); return ;;
   esac
   if [[ $current == --* && ($command == model || $previous != --@(json|csv|vtu|html|model|profile)) ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")

@@ -14,6 +14,7 @@ update() { # CATALOGUE FOLDER...
   local language
   for language in en zh_CN; do
     "$lupdate" -silent -no-obsolete -locations none -extensions cpp,h -I . -I apps -I platform \
+      -disable-heuristic sametext -disable-heuristic similartext -disable-heuristic number \
       -source-language en -target-language "$language" "${@:2}" -ts "$target/$1_$language.ts"
   done
   perl -0pi -e 's{<source>([^<]*)</source>(\s*)<translation type="unfinished"></translation>}{<source>$1</source>$2<translation>$1</translation>}g' \

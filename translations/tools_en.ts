@@ -271,4 +271,237 @@ Exit codes: 0 ok, 1 faults found or a material is missing, 2 wrong call,
         <translation>is no whole number</translation>
     </message>
 </context>
+<context>
+    <name>meshquality</name>
+    <message>
+        <source>%1 %2 elements (%3 %)</source>
+        <translation>%1 %2 elements (%3 %)</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>fail</translation>
+    </message>
+    <message>
+        <source>warn</source>
+        <translation>warn</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>pass</translation>
+    </message>
+    <message>
+        <source>--profile needs a file</source>
+        <translation>--profile needs a file</translation>
+    </message>
+    <message>
+        <source>no mesh is given</source>
+        <translation>no mesh is given</translation>
+    </message>
+    <message>
+        <source>Quality of tetrahedral meshes in MSH 2 ASCII and VTK XML (.vtu); with gmsh on the path in any MSH.
+
+  meshquality report [OPTION...] MESH...
+      Counts, means and spread of eleven metrics, and the model&apos;s score of each mesh.
+      --json FILE         also as JSON into a file, or with - onto standard output instead of the table
+      --jsonl             one JSON object a line on standard output, as each mesh ends, instead of the table
+      --csv FILE          all values, one line an element
+      --vtu FILE          the mesh with one cell array a metric, for ParaView
+      --html FILE         one web page with everything
+      --worst N           the worst N elements
+      --by METRIC         by which metric they are the worst (Shape)
+      --histogram METRIC  how the values of a metric are spread
+      --by-region         the same for each physical group
+      --model FILE        another model than ../mesher/mesh.onnx beside the program
+  meshquality check [--profile FILE] MESH...
+      One line a mesh: pass, warn or fail against the thresholds of a profile, or of the built-in one.
+  meshquality check --print-profile
+      The built-in profile, with the source of each threshold.
+  meshquality compare [--model FILE] A B
+      Two meshes side by side, with what has improved and what has worsened.
+  meshquality model [--json] [FILE]
+      Whether a model can serve, and what it says about itself; without FILE the one beside the program.
+  meshquality predict
+      Scores ../temp/mesh.msh beside the program, as an application does, and
+      prints the history of the last ten scores, oldest first.
+  meshquality --help
+  meshquality --version
+
+  --language L  the language of these texts: English (the default) or Chinese; JSON and CSV stay as they are
+
+Exit codes: 0 ok, 1 a mesh fails its check or a model does not meet the contract, 2 wrong call or a result
+cannot be written, 3 a mesh or the model to be judged cannot be read, 4 the model cannot be used for scores;
+of several the highest.
+</source>
+        <translation>Quality of tetrahedral meshes in MSH 2 ASCII and VTK XML (.vtu); with gmsh on the path in any MSH.
+
+  meshquality report [OPTION...] MESH...
+      Counts, means and spread of eleven metrics, and the model&apos;s score of each mesh.
+      --json FILE         also as JSON into a file, or with - onto standard output instead of the table
+      --jsonl             one JSON object a line on standard output, as each mesh ends, instead of the table
+      --csv FILE          all values, one line an element
+      --vtu FILE          the mesh with one cell array a metric, for ParaView
+      --html FILE         one web page with everything
+      --worst N           the worst N elements
+      --by METRIC         by which metric they are the worst (Shape)
+      --histogram METRIC  how the values of a metric are spread
+      --by-region         the same for each physical group
+      --model FILE        another model than ../mesher/mesh.onnx beside the program
+  meshquality check [--profile FILE] MESH...
+      One line a mesh: pass, warn or fail against the thresholds of a profile, or of the built-in one.
+  meshquality check --print-profile
+      The built-in profile, with the source of each threshold.
+  meshquality compare [--model FILE] A B
+      Two meshes side by side, with what has improved and what has worsened.
+  meshquality model [--json] [FILE]
+      Whether a model can serve, and what it says about itself; without FILE the one beside the program.
+  meshquality predict
+      Scores ../temp/mesh.msh beside the program, as an application does, and
+      prints the history of the last ten scores, oldest first.
+  meshquality --help
+  meshquality --version
+
+  --language L  the language of these texts: English (the default) or Chinese; JSON and CSV stay as they are
+
+Exit codes: 0 ok, 1 a mesh fails its check or a model does not meet the contract, 2 wrong call or a result
+cannot be written, 3 a mesh or the model to be judged cannot be read, 4 the model cannot be used for scores;
+of several the highest.
+</translation>
+    </message>
+    <message>
+        <source>no command is given</source>
+        <translation>no command is given</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>unknown command &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>  meets the contract of a quality model
+</source>
+        <translation>  meets the contract of a quality model
+</translation>
+    </message>
+    <message>
+        <source>  does not meet the contract: </source>
+        <translation>  does not meet the contract: </translation>
+    </message>
+    <message>
+        <source>  scores %1 for ordinary features, %2 for zeros, %3 for NaN
+</source>
+        <translation>  scores %1 for ordinary features, %2 for zeros, %3 for NaN
+</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>any</translation>
+    </message>
+    <message>
+        <source>  remark: </source>
+        <translation>  remark: </translation>
+    </message>
+    <message>
+        <source>model takes one file</source>
+        <translation>model takes one file</translation>
+    </message>
+    <message>
+        <source>%1 %2 lies outside of the range that the model was trained on, %3 to %4</source>
+        <translation>%1 %2 lies outside of the range that the model was trained on, %3 to %4</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>no such file</translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation>not a regular file</translation>
+    </message>
+    <message>
+        <source>cannot be opened</source>
+        <translation>cannot be opened</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>cannot be read</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>is empty</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelled</translation>
+    </message>
+    <message>
+        <source>no tetrahedra</source>
+        <translation>no tetrahedra</translation>
+    </message>
+    <message>
+        <source>a node needs four columns</source>
+        <translation>a node needs four columns</translation>
+    </message>
+    <message>
+        <source>a tetrahedron needs nine columns</source>
+        <translation>a tetrahedron needs nine columns</translation>
+    </message>
+    <message>
+        <source>names a node that is not there (nodes are numbered by their place in the file)</source>
+        <translation>names a node that is not there (nodes are numbered by their place in the file)</translation>
+    </message>
+    <message>
+        <source>not a VTK XML unstructured grid</source>
+        <translation>not a VTK XML unstructured grid</translation>
+    </message>
+    <message>
+        <source>a damaged VTK XML unstructured grid</source>
+        <translation>a damaged VTK XML unstructured grid</translation>
+    </message>
+    <message>
+        <source>a VTK XML unstructured grid that does not fit into the memory</source>
+        <translation>a VTK XML unstructured grid that does not fit into the memory</translation>
+    </message>
+    <message>
+        <source>there is no room for temporary files</source>
+        <translation>there is no room for temporary files</translation>
+    </message>
+    <message>
+        <source>there is no metric &apos;%1&apos;</source>
+        <translation>there is no metric &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>%1 needs a number as minimum or maximum</source>
+        <translation>%1 needs a number as minimum or maximum</translation>
+    </message>
+    <message>
+        <source>%1 at byte %2</source>
+        <translation>%1 at byte %2</translation>
+    </message>
+    <message>
+        <source>has no list of thresholds</source>
+        <translation>has no list of thresholds</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>cannot be written</translation>
+    </message>
+    <message>
+        <source>--worst needs a number from 1</source>
+        <translation>--worst needs a number from 1</translation>
+    </message>
+    <message>
+        <source>--by goes with --worst</source>
+        <translation>--by goes with --worst</translation>
+    </message>
+    <message>
+        <source>--%1 needs a file</source>
+        <translation>--%1 needs a file</translation>
+    </message>
+    <message>
+        <source>--vtu goes with one mesh</source>
+        <translation>--vtu goes with one mesh</translation>
+    </message>
+    <message>
+        <source>--jsonl and --json - both need standard output</source>
+        <translation>--jsonl and --json - both need standard output</translation>
+    </message>
+</context>
 </TS>

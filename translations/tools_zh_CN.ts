@@ -270,4 +270,236 @@ Exit codes: 0 ok, 1 faults found or a material is missing, 2 wrong call,
         <translation>不是整数</translation>
     </message>
 </context>
+<context>
+    <name>meshquality</name>
+    <message>
+        <source>%1 %2 elements (%3 %)</source>
+        <translation>%1 %2 个单元（%3 %）</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>不合格</translation>
+    </message>
+    <message>
+        <source>warn</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>合格</translation>
+    </message>
+    <message>
+        <source>--profile needs a file</source>
+        <translation>--profile 需要一个文件</translation>
+    </message>
+    <message>
+        <source>no mesh is given</source>
+        <translation>未指定网格文件</translation>
+    </message>
+    <message>
+        <source>Quality of tetrahedral meshes in MSH 2 ASCII and VTK XML (.vtu); with gmsh on the path in any MSH.
+
+  meshquality report [OPTION...] MESH...
+      Counts, means and spread of eleven metrics, and the model&apos;s score of each mesh.
+      --json FILE         also as JSON into a file, or with - onto standard output instead of the table
+      --jsonl             one JSON object a line on standard output, as each mesh ends, instead of the table
+      --csv FILE          all values, one line an element
+      --vtu FILE          the mesh with one cell array a metric, for ParaView
+      --html FILE         one web page with everything
+      --worst N           the worst N elements
+      --by METRIC         by which metric they are the worst (Shape)
+      --histogram METRIC  how the values of a metric are spread
+      --by-region         the same for each physical group
+      --model FILE        another model than ../mesher/mesh.onnx beside the program
+  meshquality check [--profile FILE] MESH...
+      One line a mesh: pass, warn or fail against the thresholds of a profile, or of the built-in one.
+  meshquality check --print-profile
+      The built-in profile, with the source of each threshold.
+  meshquality compare [--model FILE] A B
+      Two meshes side by side, with what has improved and what has worsened.
+  meshquality model [--json] [FILE]
+      Whether a model can serve, and what it says about itself; without FILE the one beside the program.
+  meshquality predict
+      Scores ../temp/mesh.msh beside the program, as an application does, and
+      prints the history of the last ten scores, oldest first.
+  meshquality --help
+  meshquality --version
+
+  --language L  the language of these texts: English (the default) or Chinese; JSON and CSV stay as they are
+
+Exit codes: 0 ok, 1 a mesh fails its check or a model does not meet the contract, 2 wrong call or a result
+cannot be written, 3 a mesh or the model to be judged cannot be read, 4 the model cannot be used for scores;
+of several the highest.
+</source>
+        <translation>四面体网格质量工具，读取 MSH 2 ASCII 和 VTK XML (.vtu)；路径中有 gmsh 时可读取任何 MSH。
+
+  meshquality report [选项...] 网格...
+      每个网格的数量、十一项指标的均值与分布，以及模型给出的评分。
+      --json 文件         同时以 JSON 写入文件；为 - 时写到标准输出，代替表格
+      --jsonl             每完成一个网格，在标准输出写一行 JSON 对象，代替表格
+      --csv 文件          全部数值，每个单元一行
+      --vtu 文件          网格，每项指标一个单元数组，供 ParaView 使用
+      --html 文件         包含全部内容的一个网页
+      --worst N           最差的 N 个单元
+      --by 指标           按哪项指标算最差（Shape）
+      --histogram 指标    一项指标的数值分布
+      --by-region         按物理组分别列出
+      --model 文件        不用程序旁的 ../mesher/mesh.onnx，改用另一个模型
+  meshquality check [--profile 文件] 网格...
+      每个网格一行：按指定的或内置的阈值配置判为合格、警告或不合格。
+  meshquality check --print-profile
+      内置的阈值配置，注明每个阈值的来源。
+  meshquality compare [--model 文件] A B
+      两个网格并列比较，指出改善与变差之处。
+  meshquality model [--json] [文件]
+      模型能否使用，以及它对自身的说明；不指定文件时为程序旁的模型。
+  meshquality predict
+      像应用程序那样为程序旁的 ../temp/mesh.msh 评分，
+      并输出最近十次评分，最早的在前。
+  meshquality --help
+  meshquality --version
+
+  --language L  这些文字的语言：English（默认）或 Chinese；JSON 和 CSV 不变
+
+退出码：0 成功，1 网格未通过检查或模型不符合约定，2 命令用法有误或结果无法写入，
+3 网格或待判断的模型无法读取，4 模型无法用于评分；有多个时取最大值。
+</translation>
+    </message>
+    <message>
+        <source>no command is given</source>
+        <translation>未指定命令</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>未知命令“%1”</translation>
+    </message>
+    <message>
+        <source>  meets the contract of a quality model
+</source>
+        <translation>  符合质量模型的约定
+</translation>
+    </message>
+    <message>
+        <source>  does not meet the contract: </source>
+        <translation>  不符合约定：</translation>
+    </message>
+    <message>
+        <source>  scores %1 for ordinary features, %2 for zeros, %3 for NaN
+</source>
+        <translation>  评分：一般特征 %1，全零 %2，NaN %3
+</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>任意</translation>
+    </message>
+    <message>
+        <source>  remark: </source>
+        <translation>  说明：</translation>
+    </message>
+    <message>
+        <source>model takes one file</source>
+        <translation>model 只接受一个文件</translation>
+    </message>
+    <message>
+        <source>%1 %2 lies outside of the range that the model was trained on, %3 to %4</source>
+        <translation>%1 的值 %2 超出模型的训练范围（%3 至 %4）</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>文件不存在</translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>cannot be opened</source>
+        <translation>无法打开</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>无法读取</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>为空</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>no tetrahedra</source>
+        <translation>没有四面体</translation>
+    </message>
+    <message>
+        <source>a node needs four columns</source>
+        <translation>节点行应有四列</translation>
+    </message>
+    <message>
+        <source>a tetrahedron needs nine columns</source>
+        <translation>四面体行应有九列</translation>
+    </message>
+    <message>
+        <source>names a node that is not there (nodes are numbered by their place in the file)</source>
+        <translation>引用了不存在的节点（节点按其在文件中的位置编号）</translation>
+    </message>
+    <message>
+        <source>not a VTK XML unstructured grid</source>
+        <translation>不是 VTK XML 非结构网格</translation>
+    </message>
+    <message>
+        <source>a damaged VTK XML unstructured grid</source>
+        <translation>VTK XML 非结构网格已损坏</translation>
+    </message>
+    <message>
+        <source>a VTK XML unstructured grid that does not fit into the memory</source>
+        <translation>VTK XML 非结构网格过大，内存不足</translation>
+    </message>
+    <message>
+        <source>there is no room for temporary files</source>
+        <translation>没有存放临时文件的空间</translation>
+    </message>
+    <message>
+        <source>there is no metric &apos;%1&apos;</source>
+        <translation>没有名为“%1”的指标</translation>
+    </message>
+    <message>
+        <source>%1 needs a number as minimum or maximum</source>
+        <translation>%1 的最小值或最大值应为数字</translation>
+    </message>
+    <message>
+        <source>%1 at byte %2</source>
+        <translation>%1（第 %2 字节处）</translation>
+    </message>
+    <message>
+        <source>has no list of thresholds</source>
+        <translation>没有阈值列表</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>无法写入</translation>
+    </message>
+    <message>
+        <source>--worst needs a number from 1</source>
+        <translation>--worst 需要一个不小于 1 的整数</translation>
+    </message>
+    <message>
+        <source>--by goes with --worst</source>
+        <translation>--by 须与 --worst 同用</translation>
+    </message>
+    <message>
+        <source>--%1 needs a file</source>
+        <translation>--%1 需要一个文件</translation>
+    </message>
+    <message>
+        <source>--vtu goes with one mesh</source>
+        <translation>--vtu 只能用于一个网格</translation>
+    </message>
+    <message>
+        <source>--jsonl and --json - both need standard output</source>
+        <translation>--jsonl 与 --json - 都要占用标准输出</translation>
+    </message>
+</context>
 </TS>

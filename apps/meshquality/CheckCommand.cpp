@@ -10,6 +10,7 @@
 #include <meshquality/ScoredMesh.h>
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 
 namespace MeshQuality {
 
@@ -45,16 +46,16 @@ Finding check(const MeshQualityReport& report, const Threshold& threshold)
     const Verdict verdict = failing == 0                          ? Verdict::Pass
                             : percent <= threshold.allowedPercent ? Verdict::Warn
                                                                   : Verdict::Fail;
-    return {verdict, QStringLiteral("%1 %2 elements (%3 %)")
+    return {verdict, QCoreApplication::translate("meshquality", "%1 %2 elements (%3 %)")
                          .arg(MeshQualityReport::metricName(threshold.metric), QString::number(failing),
                               QString::fromLatin1(sixDigits(percent)))};
 }
 
 QString word(Verdict verdict)
 {
-    return verdict == Verdict::Fail   ? QStringLiteral("fail")
-           : verdict == Verdict::Warn ? QStringLiteral("warn")
-                                      : QStringLiteral("pass");
+    return verdict == Verdict::Fail   ? QCoreApplication::translate("meshquality", "fail")
+           : verdict == Verdict::Warn ? QCoreApplication::translate("meshquality", "warn")
+                                      : QCoreApplication::translate("meshquality", "pass");
 }
 
 ExitCode checkMesh(const QString& file, const Profile& profile)
@@ -96,8 +97,9 @@ ExitCode runCheck(const QStringList& arguments)
     }
     const QString path = parser.value(profileFile);
     if ((path.isEmpty() && parser.isSet(profileFile)) || parser.positionalArguments().isEmpty()) {
-        Console::printUsageError(parser.isSet(profileFile) && path.isEmpty() ? QStringLiteral("--profile needs a file")
-                                                                             : QStringLiteral("no mesh is given"));
+        Console::printUsageError(parser.isSet(profileFile) && path.isEmpty()
+                                     ? QCoreApplication::translate("meshquality", "--profile needs a file")
+                                     : QCoreApplication::translate("meshquality", "no mesh is given"));
         return UsageError;
     }
     Profile profile;

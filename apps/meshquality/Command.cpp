@@ -10,12 +10,14 @@
 #include <meshquality/PredictCommand.h>
 #include <meshquality/ReportCommand.h>
 
+#include <QCoreApplication>
+
 namespace MeshQuality {
 
 namespace {
 
-const char* const helpText =
-    R"(Quality of tetrahedral meshes in MSH 2 ASCII and VTK XML (.vtu); with gmsh on the path in any MSH.
+const char* const helpText = QT_TRANSLATE_NOOP(
+    "meshquality", R"(Quality of tetrahedral meshes in MSH 2 ASCII and VTK XML (.vtu); with gmsh on the path in any MSH.
 
   meshquality report [OPTION...] MESH...
       Counts, means and spread of eleven metrics, and the model's score of each mesh.
@@ -43,17 +45,19 @@ const char* const helpText =
   meshquality --help
   meshquality --version
 
+  --language L  the language of these texts: English (the default) or Chinese; JSON and CSV stay as they are
+
 Exit codes: 0 ok, 1 a mesh fails its check or a model does not meet the contract, 2 wrong call or a result
 cannot be written, 3 a mesh or the model to be judged cannot be read, 4 the model cannot be used for scores;
 of several the highest.
-)";
+)");
 
 ExitCode runNamedCommand(const QStringList& arguments)
 {
     const QString command = arguments.value(1);
     const QStringList rest = arguments.mid(1);
     if (rest.contains(QStringLiteral("--help"))) {
-        Console::print(QString::fromUtf8(helpText));
+        Console::print(QCoreApplication::translate("meshquality", helpText));
         return Success;
     }
     if (command == QLatin1String("--version")) {
@@ -75,8 +79,9 @@ ExitCode runNamedCommand(const QStringList& arguments)
     if (command == QLatin1String("predict")) {
         return runPredict(rest);
     }
-    Console::printUsageError(command.isEmpty() ? QStringLiteral("no command is given")
-                                               : QStringLiteral("unknown command '%1'").arg(command));
+    Console::printUsageError(command.isEmpty()
+                                 ? QCoreApplication::translate("meshquality", "no command is given")
+                                 : QCoreApplication::translate("meshquality", "unknown command '%1'").arg(command));
     return UsageError;
 }
 

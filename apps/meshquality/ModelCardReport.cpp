@@ -3,9 +3,12 @@
 
 #include <meshquality/ModelCardReport.h>
 
+#include <console/Columns.h>
 #include <meshquality/JsonWriter.h>
 #include <meshquality/ModelText.h>
 #include <meshquality/NumberText.h>
+
+#include <QCoreApplication>
 
 namespace MeshQuality {
 
@@ -25,18 +28,19 @@ QString number(double value)
 QString verdict(const QualityModelCard& card)
 {
     if (card.violations().isEmpty()) {
-        return QStringLiteral("  meets the contract of a quality model\n");
+        return QCoreApplication::translate("meshquality", "  meets the contract of a quality model\n");
     }
     QString text;
     for (const QString& violation : card.violations()) {
-        text += QStringLiteral("  does not meet the contract: ") + printable(violation) + QLatin1Char('\n');
+        text += QCoreApplication::translate("meshquality", "  does not meet the contract: ") + printable(violation) +
+                QLatin1Char('\n');
     }
     return text;
 }
 
 QString trial(const QualityModelCard::Trial& trial)
 {
-    return QStringLiteral("  scores %1 for ordinary features, %2 for zeros, %3 for NaN\n")
+    return QCoreApplication::translate("meshquality", "  scores %1 for ordinary features, %2 for zeros, %3 for NaN\n")
         .arg(number(static_cast<double>(trial.ordinary)), number(static_cast<double>(trial.zeros)),
              number(static_cast<double>(trial.notANumber)));
 }
@@ -66,7 +70,7 @@ QString ranges(const QualityModelCard& card)
         const std::optional<QualityModelCard::Range> range = card.trainingRange(static_cast<Metric>(i));
         text += QStringLiteral("    ") + MeshQualityReport::metricName(static_cast<Metric>(i)).leftJustified(20) +
                 (range ? number(range->lowest).rightJustified(13) + number(range->highest).rightJustified(13)
-                       : QStringLiteral("any").rightJustified(13)) +
+                       : Console::rightJustified(QCoreApplication::translate("meshquality", "any"), 13)) +
                 QLatin1Char('\n');
     }
     return text;
@@ -136,7 +140,7 @@ QString modelCardText(const QString& file, const QualityModelCard& card)
         text += key == trainingRanges && hasRanges(card) ? ranges(card) : entry(key, card.metadata().value(key));
     }
     for (const QString& remark : card.remarks()) {
-        text += QStringLiteral("  remark: ") + remark + QLatin1Char('\n');
+        text += QCoreApplication::translate("meshquality", "  remark: ") + remark + QLatin1Char('\n');
     }
     return text;
 }

@@ -8,8 +8,10 @@
 #include <meshquality/JsonWriter.h>
 #include <meshquality/ModelCardReport.h>
 #include <meshquality/ModelScore.h>
+#include <meshquality/ProblemText.h>
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 
 namespace MeshQuality {
 
@@ -24,7 +26,7 @@ ExitCode judge(const QString& file, bool isJson)
     QualityModelCard card;
     const bool isRead = card.read(file);
     if (!isRead) {
-        Console::printError(file, card.problemText());
+        Console::printError(file, translated(card.problemText()));
     }
     if (isJson) {
         JsonWriter writer;
@@ -49,7 +51,8 @@ ExitCode runModel(const QStringList& arguments)
     const bool isParsed = parser.parse(arguments);
     const QStringList files = parser.positionalArguments();
     if (!isParsed || files.size() > 1) {
-        Console::printUsageError(isParsed ? QStringLiteral("model takes one file") : parser.errorText());
+        Console::printUsageError(isParsed ? QCoreApplication::translate("meshquality", "model takes one file")
+                                          : parser.errorText());
         return UsageError;
     }
     return judge(files.isEmpty() ? ModelScore::defaultModel() : files.first(), parser.isSet(json));

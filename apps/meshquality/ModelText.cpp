@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QCoreApplication>
+
 namespace MeshQuality {
 
 using DataManager::MeshQualityReport;
@@ -28,7 +30,8 @@ QString printable(QString text)
 
 QString excessText(const QualityModelCard::Excess& excess)
 {
-    return QStringLiteral("%1 %2 lies outside of the range that the model was trained on, %3 to %4")
+    return QCoreApplication::translate("meshquality",
+                                       "%1 %2 lies outside of the range that the model was trained on, %3 to %4")
         .arg(MeshQualityReport::metricName(excess.feature), QString::fromLatin1(sixDigits(excess.value)),
              QString::fromLatin1(sixDigits(excess.range.lowest)), QString::fromLatin1(sixDigits(excess.range.highest)));
 }

@@ -5,6 +5,7 @@
 
 #include <basemodule/GlobalHelper.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -30,13 +31,13 @@ QString readThreshold(const QJsonObject& object, Threshold& threshold)
 {
     const QString name = object.value(QLatin1String("metric")).toString();
     if (!DataManager::MeshQualityReport::metricOfName(name, threshold.metric)) {
-        return QStringLiteral("there is no metric '%1'").arg(name);
+        return QCoreApplication::translate("meshquality", "there is no metric '%1'").arg(name);
     }
     const bool areNumbers = readNumber(object, "minimum", -unbounded, threshold.minimum) &&
                             readNumber(object, "maximum", unbounded, threshold.maximum) &&
                             readNumber(object, "allowedPercent", 0.0, threshold.allowedPercent);
     if (!areNumbers || (threshold.minimum == -unbounded && threshold.maximum == unbounded)) {
-        return QStringLiteral("%1 needs a number as minimum or maximum").arg(name);
+        return QCoreApplication::translate("meshquality", "%1 needs a number as minimum or maximum").arg(name);
     }
     threshold.source = object.value(QLatin1String("source")).toString();
     return QString();
@@ -54,7 +55,7 @@ bool Profile::read(const QString& path, Profile& profile, QString& problem)
 {
     QByteArray content;
     if (!BaseModule::GlobalHelper::readFile(path, content)) {
-        problem = QStringLiteral("cannot be read");
+        problem = QCoreApplication::translate("meshquality", "cannot be read");
         return false;
     }
     return parse(content, profile, problem);
@@ -66,9 +67,10 @@ bool Profile::parse(const QByteArray& text, Profile& profile, QString& problem)
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     const QJsonArray thresholds = document.object().value(QLatin1String("thresholds")).toArray();
     if (error.error != QJsonParseError::NoError) {
-        problem = QStringLiteral("%1 at byte %2").arg(error.errorString()).arg(error.offset);
+        problem =
+            QCoreApplication::translate("meshquality", "%1 at byte %2").arg(error.errorString()).arg(error.offset);
     } else if (thresholds.isEmpty()) {
-        problem = QStringLiteral("has no list of thresholds");
+        problem = QCoreApplication::translate("meshquality", "has no list of thresholds");
     }
     for (const QJsonValue& value : thresholds) {
         Threshold threshold{};

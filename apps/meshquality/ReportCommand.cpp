@@ -10,6 +10,7 @@
 #include <meshquality/JsonWriter.h>
 #include <meshquality/MeshInput.h>
 #include <meshquality/ModelScore.h>
+#include <meshquality/ProblemText.h>
 #include <meshquality/ReportOptions.h>
 #include <meshquality/ScoredMesh.h>
 #include <meshquality/TextDetails.h>
@@ -17,6 +18,8 @@
 #include <meshquality/VtuReport.h>
 
 #include <basemodule/GlobalHelper.h>
+
+#include <QCoreApplication>
 
 namespace MeshQuality {
 
@@ -73,7 +76,7 @@ private:
 
     ExitCode tellProblem(const QString& file, const QString& problem, ExitCode exitCode)
     {
-        Console::printError(file, problem);
+        Console::printError(file, translated(problem));
         if (m_options.jsonLines) {
             JsonWriter line(JsonWriter::Layout::OneLine);
             writeJsonProblem(file, problem, line);
@@ -95,7 +98,7 @@ private:
 
     ExitCode modelTrouble()
     {
-        Console::printError(m_options.model, m_model.errorText());
+        Console::printError(m_options.model, translated(m_model.errorText()));
         return ModelTrouble;
     }
 
@@ -113,7 +116,7 @@ private:
         } else if (!m_options.jsonFile.isEmpty() &&
                    !BaseModule::GlobalHelper::writeFile(m_options.jsonFile, m_json.text(),
                                                         QIODevice::WriteOnly | QIODevice::Truncate)) {
-            Console::printError(m_options.jsonFile, QStringLiteral("cannot be written"));
+            Console::printError(m_options.jsonFile, QCoreApplication::translate("meshquality", "cannot be written"));
             return false;
         }
         return true;

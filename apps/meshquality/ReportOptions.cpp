@@ -7,6 +7,7 @@
 #include <meshquality/ModelScore.h>
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 
 namespace MeshQuality {
 
@@ -39,7 +40,7 @@ QString readMetric(const QString& name, Metric& metric)
 {
     return DataManager::MeshQualityReport::metricOfName(name, metric)
                ? QString()
-               : QStringLiteral("there is no metric '%1'").arg(name);
+               : QCoreApplication::translate("meshquality", "there is no metric '%1'").arg(name);
 }
 
 QString readNumbers(const QCommandLineParser& parser, ReportOptions& options)
@@ -48,11 +49,11 @@ QString readNumbers(const QCommandLineParser& parser, ReportOptions& options)
         bool isNumber = false;
         options.worstCount = parser.value(worst).toInt(&isNumber);
         if (!isNumber || options.worstCount < 1) {
-            return QStringLiteral("--worst needs a number from 1");
+            return QCoreApplication::translate("meshquality", "--worst needs a number from 1");
         }
     }
     if (parser.isSet(by) && !parser.isSet(worst)) {
-        return QStringLiteral("--by goes with --worst");
+        return QCoreApplication::translate("meshquality", "--by goes with --worst");
     }
     QString problem = parser.isSet(by) ? readMetric(parser.value(by), options.worstBy) : QString();
     if (parser.isSet(histogram) && problem.isEmpty()) {
@@ -74,16 +75,16 @@ QString readFiles(const QCommandLineParser& parser, ReportOptions& options)
     options.jsonLines = parser.isSet(jsonLines);
     for (const QString& name : {json, csv, vtu, html, model}) {
         if (parser.isSet(name) && parser.value(name).isEmpty()) {
-            return QStringLiteral("--%1 needs a file").arg(name);
+            return QCoreApplication::translate("meshquality", "--%1 needs a file").arg(name);
         }
     }
     if (parser.isSet(vtu) && options.meshes.size() > 1) {
-        return QStringLiteral("--vtu goes with one mesh");
+        return QCoreApplication::translate("meshquality", "--vtu goes with one mesh");
     }
     if (options.jsonLines && options.jsonFile == QLatin1String("-")) {
-        return QStringLiteral("--jsonl and --json - both need standard output");
+        return QCoreApplication::translate("meshquality", "--jsonl and --json - both need standard output");
     }
-    return options.meshes.isEmpty() ? QStringLiteral("no mesh is given") : QString();
+    return options.meshes.isEmpty() ? QCoreApplication::translate("meshquality", "no mesh is given") : QString();
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 
 #include <console/Console.h>
 
+#include <QCoreApplication>
+
 namespace MeshQuality {
 
 ResultFile::ResultFile(const QString& path) : m_file(path)
@@ -29,7 +31,7 @@ bool ResultFile::commit()
         m_file.cancelWriting();
     }
     if (!m_isOpen || !m_file.commit()) {
-        Console::printError(m_file.fileName(), QStringLiteral("cannot be written"));
+        Console::printError(m_file.fileName(), QCoreApplication::translate("meshquality", "cannot be written"));
         return false;
     }
     return true;

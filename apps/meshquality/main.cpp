@@ -4,6 +4,7 @@
 #include <meshquality/Command.h>
 
 #include <console/Console.h>
+#include <console/Translations.h>
 
 #include <QCoreApplication>
 
@@ -11,5 +12,11 @@ int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
     Console::setProgramName(QStringLiteral("meshquality"));
-    return MeshQuality::runCommand(QCoreApplication::arguments());
+    QStringList arguments = QCoreApplication::arguments();
+    Console::Translations translations({QStringLiteral("datamanager"), QStringLiteral("tools")});
+    if (!translations.choose(arguments)) {
+        Console::printLanguageError();
+        return MeshQuality::UsageError;
+    }
+    return MeshQuality::runCommand(arguments);
 }

@@ -173,8 +173,9 @@ void TestCommandDocuments::completes_data()
     row("meshquality report o", "one.msh other.json");
     row("meshquality report --json o", "one.msh other.json");
     row("meshquality check --pr", "--profile --print-profile");
-    row("meshquality compare --", "--model --help");
-    row("meshquality model --json --", "--json --help");
+    row("meshquality compare --", "--model --language --help");
+    row("meshquality model --json --", "--json --language --help");
+    row("meshquality check --language ", "English Chinese");
     row("meshquality model o", "one.msh other.json");
     row("meshquality predict o", "");
     row("meshquality nonsense --", "");

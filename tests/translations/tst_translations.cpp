@@ -291,6 +291,18 @@ void TestTranslations::speaksChinese_data()
     QTest::newRow("materials, missing file")
         << materials << words("check none.json") << QString() << text("materials: none.json：无法读取\n") << 3;
     QTest::newRow("materials, help") << materials << words("--help") << text("退出码：0 成功") << QString() << 0;
+    const QString meshquality = text(MESHQUALITY_PROGRAM);
+    const QString slivers = text(DATAMANAGER_SOURCE_DIR "/samples/slivers.msh");
+    QTest::newRow("meshquality, wrong call") << meshquality << words("frob") << QString()
+                                             << text("meshquality: 未知命令“frob”；用法参见 meshquality --help\n") << 2;
+    QTest::newRow("meshquality, no mesh")
+        << meshquality << words("report none.msh") << QString() << text("meshquality: none.msh: 文件不存在\n") << 3;
+    QTest::newRow("meshquality, help") << meshquality << words("--help") << text("退出码：0 成功") << QString() << 0;
+    QTest::newRow("meshquality, check") << meshquality << QStringList{text("check"), slivers}
+                                        << text("不合格 %1: 不合格 EdgeRatio 871 个单元（27.5982 %）").arg(slivers)
+                                        << QString() << 1;
+    QTest::newRow("meshquality, model") << meshquality << words("model") << text("\n  符合质量模型的约定\n")
+                                        << QString() << 0;
     QTest::newRow("materials, list") << materials << words("list") << text("    1  有效     Copper ") << QString() << 0;
 }
 
@@ -325,6 +337,11 @@ void TestTranslations::keepsWhatProgramsRead_data()
     QTest::addColumn<QString>("program");
     QTest::addColumn<QStringList>("call");
     const auto row = [](const char* program, const char* call) { QTest::newRow(call) << text(program) << words(call); };
+    row(MESHQUALITY_PROGRAM, "report --jsonl none.msh " DATAMANAGER_SOURCE_DIR "/samples/slivers.msh");
+    row(MESHQUALITY_PROGRAM, "report --json - --by-region --worst 2 " DATAMANAGER_SOURCE_DIR "/samples/slivers.msh");
+    row(MESHQUALITY_PROGRAM, "check --print-profile");
+    row(MESHQUALITY_PROGRAM, "model --json");
+    row(MESHQUALITY_PROGRAM, "model --json " DATAMANAGER_SOURCE_DIR "/samples/slivers.msh");
     row(MATERIALS_PROGRAM, "list --json");
     row(MATERIALS_PROGRAM, "show --json Copper");
     row(MATERIALS_PROGRAM, "export");
