@@ -79,6 +79,7 @@ private Q_SLOTS:
     void fitsWrittenMaterialLibraries();
     void fitsTheDefaultLibraries();
     void fitsWrittenExamples();
+    void fitsTheExamplesOfThePage();
     void refusesOtherFiles_data();
     void refusesOtherFiles();
 };
@@ -145,6 +146,26 @@ void TestSchemas::fitsWrittenExamples()
     QVERIFY(QFile::remove(path));
     QCOMPARE(library.value(text("exampleList")).toArray().size(), 2);
     QCOMPARE(JsonSchema(text("ExampleLibrary")).problem(library), QString());
+}
+
+void TestSchemas::fitsTheExamplesOfThePage()
+{
+    static const QRegularExpression fenced(text("```json\\n(.*?)```"), QRegularExpression::DotMatchesEverythingOption);
+    const QString page = QString::fromUtf8(read(text(DATAMANAGER_SOURCE_DIR "/docs/file-formats.md")));
+    const QMap<QString, QString> schemaOfMember = {{text("m_IDList"), text("RelativeCoordinateSystemDate")},
+                                                   {text("materialList"), text("MaterialLibrary")},
+                                                   {text("exampleList"), text("ExampleLibrary")}};
+    QStringList shown;
+    QRegularExpressionMatchIterator matches = fenced.globalMatch(page);
+    while (matches.hasNext()) {
+        const QJsonObject object = QJsonDocument::fromJson(matches.next().captured(1).toUtf8()).object();
+        QVERIFY(!object.isEmpty());
+        const QString schema = schemaOfMember.value(object.keys().first());
+        QCOMPARE(JsonSchema(schema).problem(object), QString());
+        shown.append(schema);
+    }
+    QCOMPARE(shown,
+             (QStringList{text("RelativeCoordinateSystemDate"), text("MaterialLibrary"), text("ExampleLibrary")}));
 }
 
 void TestSchemas::refusesOtherFiles_data()
