@@ -3,6 +3,9 @@
 
 #pragma once
 
+// Its enumeration is not declared here: lupdate takes that for a class and loses the one below.
+#include <workbench/window/Icons.h>
+
 #include <QList>
 #include <QMainWindow>
 
@@ -15,8 +18,6 @@ class QMenu;
 class QToolBar;
 
 namespace Workbench {
-
-enum class IconName : int;
 
 /// The window that places the views into docks and carries menu actions to the managers. Views know nothing of it.
 class MainWindow : public QMainWindow
