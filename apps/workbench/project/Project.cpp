@@ -11,6 +11,7 @@
 #include <workbench/project/WorkingDirectory.h>
 
 #include <basemodule/IBaseSignal.h>
+#include <datamanager/material/MaterialLibraryManager.h>
 
 #include <QDir>
 #include <QFile>
@@ -96,6 +97,9 @@ bool Project::saveAs(const QString& path)
         return fail(failure, path, tr("a mesh is being read; wait, or cancel it"));
     }
     const QString directory = m_directory->path();
+    if (!QFileInfo::exists(ProjectFiles::materials(directory))) {
+        DataManager::MaterialLibraryManager::getInstance()->writeProjectMatConfig();
+    }
     if (!GeometryManager::instance()->save(ProjectFiles::geometry(directory)) ||
         !MeshManager::instance()->save(ProjectFiles::mesh(directory)) ||
         !ProjectFiles::writeDescription(directory, {m_geometryName})) {
@@ -114,14 +118,16 @@ bool Project::saveAs(const QString& path)
 bool Project::takeGeometry(const QString& path)
 {
     const QString copy = ProjectFiles::geometrySource(m_directory->path(), path);
-    if (QFileInfo(path) == QFileInfo(copy)) {
-        return true;
-    }
     QFile source(path);
     if (!QFileInfo(path).isFile() || !source.open(QIODevice::ReadOnly)) {
         return fail(tr("The geometry %1 cannot be opened: %2"), path, tr("it cannot be read"));
     }
-    QFile::remove(geometryPath());
+    if (QFileInfo(path) == QFileInfo(copy)) {
+        return true;
+    }
+    if (!m_geometryName.isEmpty()) {
+        QFile::remove(geometryPath());
+    }
     if (!source.copy(copy)) {
         return fail(tr("The geometry %1 cannot be opened: %2"), path, source.errorString());
     }

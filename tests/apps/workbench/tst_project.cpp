@@ -1,0 +1,321 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "Samples.h"
+#include "WindowTest.h"
+
+#include <workbench/geometry/GeometryManager.h>
+#include <workbench/project/Project.h>
+#include <workbench/project/ProjectArchive.h>
+#include <workbench/project/RecentProjects.h>
+#include <workbench/project/WorkingDirectory.h>
+
+#include <basemodule/MaterialLibType.h>
+#include <datamanager/coordinates/RelativeCoordinateSystem.h>
+#include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
+#include <datamanager/material/MaterialLibraryManager.h>
+#include <datamodel/MaterialData.h>
+#include <datamodel/MaterialPropertyData.h>
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+using BaseModule::GlobalHelper;
+using DataManager::MaterialLibraryManager;
+using DataManager::RelativeCoordinateSystem;
+using DataManager::RelativeCoordinateSystemDate;
+using namespace Workbench;
+
+class tst_Project : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanupTestCase() { Project::instance()->close(); }
+
+    void workingDirectoryIsItsOwn();
+    void abandonedDirectoriesGo();
+    void restoresExactly();
+    void restoredIsNotModified();
+    void changesAreNoticed_data();
+    void changesAreNoticed();
+    void unreadableKeepsWhatIsOpen_data();
+    void unreadableKeepsWhatIsOpen();
+    void failedSaveKeepsTheFile();
+    void refusesNamesOfOtherPlaces();
+    void geometryTravelsAlong();
+    void recentProjects();
+
+private:
+    QString path(const char* name) const { return m_directory.filePath(QString::fromLatin1(name)); }
+    static bool waitForMesh()
+    {
+        return QTest::qWaitFor([] { return !MeshManager::instance()->isLoading(); }, 60000);
+    }
+    static void createMaterial(double value);
+    static void createSystem();
+    static double materialValue();
+
+    QTemporaryDir m_directory;
+};
+
+void tst_Project::init() { QVERIFY(Project::instance()->create()); }
+
+void tst_Project::createMaterial(double value)
+{
+    auto property = QSharedPointer<DataModel::MaterialPropertyData>::create();
+    property->label = QStringLiteral("permittivity");
+    property->components = QList<double>{value, 0, 0, 0, value, 0, 0, 0, value};
+    MaterialLibraryManager::getInstance()->createProjectMat(QStringLiteral("钢"), QStringLiteral("steel"), property, {},
+                                                            {}, {}, {});
+}
+
+double tst_Project::materialValue()
+{
+    const auto material = MaterialLibraryManager::getInstance()->getProjectMatByID(1);
+    return material && material->property1 ? material->property1->components.value(0) : 0;
+}
+
+void tst_Project::createSystem()
+{
+    auto* system = new RelativeCoordinateSystem;
+    system->setID(1);
+    system->setName(QStringLiteral("tilted"));
+    double offset[3] = {0.1, -0.0, 1e-300};
+    system->setOffsetCoordinate(offset, 1, 0, -1);
+    RelativeCoordinateSystemDate::getInstance()->appendCoordinateSystem(system);
+}
+
+void tst_Project::workingDirectoryIsItsOwn()
+{
+    const QString directory = GlobalHelper::getProjectTempIODir();
+    QVERIFY(QFileInfo(directory).isDir());
+    QVERIFY(directory.startsWith(WorkingDirectory::parentPath()));
+    QVERIFY(Project::instance()->create());
+    QVERIFY(!QFileInfo::exists(directory));
+    QVERIFY(GlobalHelper::getProjectTempIODir() != directory);
+    QCOMPARE(QDir(WorkingDirectory::parentPath()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
+}
+
+void tst_Project::abandonedDirectoriesGo()
+{
+    const QString abandoned = WorkingDirectory::parentPath() + QStringLiteral("/left-behind");
+    QVERIFY(QDir().mkpath(abandoned));
+    QVERIFY(!writeFile(abandoned + QStringLiteral("/mesh-1.msh"), "x").isEmpty());
+    // The lock of a process that is gone.
+    QProcess gone;
+    gone.start(QStringLiteral("true"), QStringList());
+    const QByteArray number = QByteArray::number(gone.processId());
+    QVERIFY(gone.waitForFinished());
+    QVERIFY(!writeFile(abandoned + QStringLiteral(".lock"), number + "\ntrue\n\n").isEmpty());
+    const QString current = GlobalHelper::getProjectTempIODir();
+    const WorkingDirectory another;
+    QVERIFY(another.isValid());
+    QVERIFY(!QFileInfo::exists(abandoned));
+    QVERIFY(QFileInfo::exists(current));
+}
+
+void tst_Project::restoresExactly()
+{
+    createMaterial(1.0 / 3);
+    createSystem();
+    openMesh(samplePath("bearing-housing.msh"));
+    GeometryManager::instance()->setMaterialID({2}, 1);
+    QFile systems(GlobalHelper::getProjectTempIODir() + QStringLiteral("/RelativeCoordinateSystemDate.json"));
+    QVERIFY(systems.open(QIODevice::ReadOnly));
+    const QByteArray before = systems.readAll();
+    const QString file = path("exact.wbproj");
+    QVERIFY(Project::instance()->saveAs(file));
+    QVERIFY(Project::instance()->create());
+    QCOMPARE(MaterialLibraryManager::getInstance()->getNextMatIDByType(BaseModule::ProjectLib), 1);
+    QCOMPARE(RelativeCoordinateSystemDate::getInstance()->getRelativeCoordinateSystemDateCount(), 1);
+    QCOMPARE(MeshManager::instance()->getKernelCount() + GeometryManager::instance()->getComponentCount(), 0);
+
+    QVERIFY(Project::instance()->open(file));
+    QVERIFY(waitForMesh());
+    QCOMPARE(materialValue(), 1.0 / 3);
+    QCOMPARE(GeometryManager::instance()->findComponentsOfMaterial(1), QList<int>{2});
+    QCOMPARE(GeometryManager::instance()->getFaces(2).isEmpty(), false);
+    QCOMPARE(MeshManager::instance()->getElementCount(1), 6811);
+    QCOMPARE(RelativeCoordinateSystemDate::getInstance()->getRelativeCoordinateSystemDateCount(), 2);
+    QFile restored(GlobalHelper::getProjectTempIODir() + QStringLiteral("/RelativeCoordinateSystemDate.json"));
+    QVERIFY(restored.open(QIODevice::ReadOnly));
+    QCOMPARE(restored.readAll(), before);
+    QCOMPARE(Project::instance()->name(), QStringLiteral("exact"));
+}
+
+void tst_Project::restoredIsNotModified()
+{
+    createSystem();
+    createMaterial(2);
+    openMesh(samplePath("slivers.msh"));
+    QVERIFY(Project::instance()->isModified());
+    QVERIFY(Project::instance()->saveAs(path("clean.wbproj")));
+    QVERIFY(!Project::instance()->isModified());
+    QVERIFY(Project::instance()->open(path("clean.wbproj")));
+    QVERIFY(waitForMesh());
+    QTest::qWait(100); // for the watcher of the working directory
+    QVERIFY(!Project::instance()->isModified());
+    QVERIFY(Project::instance()->create());
+    QVERIFY(!Project::instance()->isModified());
+}
+
+void tst_Project::changesAreNoticed_data()
+{
+    QTest::addColumn<int>("change");
+    QTest::newRow("a material is created") << 0;
+    QTest::newRow("a coordinate system is appended") << 1;
+    QTest::newRow("a material is assigned") << 2;
+    QTest::newRow("a group is hidden") << 3;
+    QTest::newRow("a set is added") << 4;
+    QTest::newRow("a mesh is opened") << 5;
+}
+
+void tst_Project::changesAreNoticed()
+{
+    QFETCH(int, change);
+    openMesh(samplePath("slivers.msh"));
+    QVERIFY(Project::instance()->saveAs(path("change.wbproj")));
+    QSignalSpy changed(Project::instance(), &Project::signal_changed);
+    switch (change) {
+    case 0:
+        createMaterial(1);
+        break;
+    case 1:
+        createSystem();
+        break;
+    case 2:
+        GeometryManager::instance()->setMaterialID({1}, 7);
+        break;
+    case 3:
+        MeshManager::instance()->showGroups({{1, 1}}, false);
+        break;
+    case 4:
+        GeometryManager::instance()->addSet(QStringLiteral("set"), {});
+        break;
+    default:
+        openMesh(samplePath("slivers.msh"));
+    }
+    QVERIFY(Project::instance()->isModified());
+    QVERIFY(!changed.isEmpty() || changed.wait());
+}
+
+void tst_Project::unreadableKeepsWhatIsOpen_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("missing") << QStringLiteral("absent") << QStringLiteral("no such file");
+    QTest::newRow("a directory") << QStringLiteral(".") << QStringLiteral("no such file");
+    QTest::newRow("empty") << QStringLiteral("empty") << QStringLiteral("no project file");
+    QTest::newRow("a text") << QStringLiteral("text") << QStringLiteral("no project file");
+    QTest::newRow("truncated") << QStringLiteral("truncated") << QStringLiteral("damaged");
+    QTest::newRow("a byte changed") << QStringLiteral("flipped") << QStringLiteral("damaged");
+    QTest::newRow("another archive") << QStringLiteral("archive") << QStringLiteral("no project");
+    QTest::newRow("of a newer version") << QStringLiteral("newer") << QStringLiteral("newer version");
+    QTest::newRow("without mesh description") << QStringLiteral("partial") << QStringLiteral("description");
+}
+
+void tst_Project::unreadableKeepsWhatIsOpen()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, reason);
+    createMaterial(4);
+    openMesh(samplePath("slivers.msh"));
+    QVERIFY(Project::instance()->saveAs(path("good.wbproj")));
+    QFile good(path("good.wbproj"));
+    QVERIFY(good.open(QIODevice::ReadOnly));
+    QByteArray content = good.readAll();
+    writeFile(path("empty"), QByteArray());
+    writeFile(path("text"), "not a project");
+    writeFile(path("truncated"), content.left(content.size() / 2));
+    content[content.size() / 2] = static_cast<char>(content[content.size() / 2] ^ 1);
+    writeFile(path("flipped"), content);
+    writeFile(path("other.txt"), "x");
+    QVERIFY(ProjectArchive::pack(m_directory.path(), {QStringLiteral("other.txt")}, path("archive")).isEmpty());
+    writeFile(path("project.json"), R"({"format": "workbench project", "version": 2})");
+    QVERIFY(ProjectArchive::pack(m_directory.path(), {QStringLiteral("project.json")}, path("newer")).isEmpty());
+    writeFile(path("project.json"), R"({"format": "workbench project", "version": 1})");
+    QVERIFY(ProjectArchive::pack(m_directory.path(), {QStringLiteral("project.json")}, path("partial")).isEmpty());
+
+    const QString directory = GlobalHelper::getProjectTempIODir();
+    Messages messages;
+    QVERIFY(!Project::instance()->open(m_directory.filePath(name)));
+    QCOMPARE(messages.list.size(), 1);
+    QVERIFY2(messages.list.first().startsWith(QStringLiteral("2 The project ")), qPrintable(messages.list.first()));
+    QVERIFY2(messages.list.first().contains(reason), qPrintable(messages.list.first()));
+    QCOMPARE(GlobalHelper::getProjectTempIODir(), directory);
+    QCOMPARE(Project::instance()->path(), path("good.wbproj"));
+    QCOMPARE(materialValue(), 4.0);
+    QCOMPARE(MeshManager::instance()->getKernelCount(), 1);
+    QVERIFY(!Project::instance()->isModified());
+    QCOMPARE(QDir(WorkingDirectory::parentPath()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
+}
+
+void tst_Project::failedSaveKeepsTheFile()
+{
+    createMaterial(1);
+    QVERIFY(Project::instance()->saveAs(path("kept.wbproj")));
+    createMaterial(2);
+    Messages messages;
+    QVERIFY(!Project::instance()->saveAs(path("no/such/place.wbproj")));
+    QCOMPARE(messages.list.size(), 1);
+    QVERIFY(messages.list.first().contains(QStringLiteral("could not be written")));
+    QCOMPARE(Project::instance()->path(), path("kept.wbproj"));
+    QVERIFY(Project::instance()->isModified());
+    MeshManager::instance()->openMesh(samplePath("slivers.msh"));
+    QVERIFY(!Project::instance()->save());
+    QVERIFY(messages.list.last().contains(QStringLiteral("being read")));
+    QVERIFY(waitForMesh());
+    QVERIFY(Project::instance()->save());
+}
+
+void tst_Project::refusesNamesOfOtherPlaces()
+{
+    QVERIFY(QDir(m_directory.path()).mkpath(QStringLiteral("in/below")));
+    writeFile(path("in/below/file"), "x");
+    writeFile(path("outside"), "x");
+    for (const char* name : {"below/file", "../outside"}) {
+        const QStringList names{QString::fromLatin1(name)};
+        QVERIFY(ProjectArchive::pack(path("in"), names, path("slip.zip")).isEmpty());
+        QVERIFY(QDir(m_directory.path()).mkpath(QStringLiteral("out")));
+        QVERIFY(ProjectArchive::unpack(path("slip.zip"), path("out")).contains(QStringLiteral("damaged")));
+        QVERIFY(QDir(path("out")).isEmpty());
+    }
+}
+
+void tst_Project::geometryTravelsAlong()
+{
+    QVERIFY(Project::instance()->takeGeometry(samplePath("slivers.geo")));
+    QCOMPARE(Project::instance()->geometryName(), QStringLiteral("slivers.geo"));
+    QVERIFY(Project::instance()->saveAs(path("geometry.wbproj")));
+    QVERIFY(Project::instance()->create());
+    QCOMPARE(Project::instance()->geometryPath(), QString());
+    QVERIFY(Project::instance()->open(path("geometry.wbproj")));
+    QVERIFY(waitForMesh());
+    QFile copy(Project::instance()->geometryPath());
+    QFile source(samplePath("slivers.geo"));
+    QVERIFY(copy.open(QIODevice::ReadOnly) && source.open(QIODevice::ReadOnly));
+    QCOMPARE(copy.readAll(), source.readAll());
+    Messages messages;
+    QVERIFY(!Project::instance()->takeGeometry(path("absent.step")));
+    QCOMPARE(messages.list.size(), 1);
+    QCOMPARE(Project::instance()->geometryName(), QStringLiteral("slivers.geo"));
+}
+
+void tst_Project::recentProjects()
+{
+    RecentProjects* recent = RecentProjects::instance();
+    recent->clear();
+    for (int i = 0; i < RecentProjects::mostKept + 2; ++i) {
+        QVERIFY(Project::instance()->saveAs(m_directory.filePath(QStringLiteral("recent-%1.wbproj").arg(i))));
+    }
+    QCOMPARE(recent->paths().size(), RecentProjects::mostKept);
+    QCOMPARE(recent->paths().first(), path("recent-9.wbproj"));
+    QVERIFY(QFile::remove(path("recent-8.wbproj")));
+    QVERIFY(Project::instance()->open(path("recent-5.wbproj")));
+    QCOMPARE(recent->paths().mid(0, 3), (QStringList{path("recent-5.wbproj"), path("recent-9.wbproj"), path("recent-7.wbproj")}));
+}
+
+WORKBENCH_TEST_MAIN(tst_Project)
+#include "tst_project.moc"
