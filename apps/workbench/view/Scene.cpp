@@ -228,7 +228,7 @@ bool Scene::focusElement(int kernelID, int elementID)
     data.triangles->GetBounds(box);
     const double centre[3] = {(box[0] + box[1]) / 2, (box[2] + box[3]) / 2, (box[4] + box[5]) / 2};
     const double size = std::hypot(box[1] - box[0], box[3] - box[2], box[5] - box[4]);
-    CameraMotion(*m_renderer).lookAt(centre, size > 0 ? 4 * size : 1);
+    CameraMotion(*m_renderer).lookAt(centre, size > 0 ? 2 * size : 1);
     return true;
 }
 
