@@ -39,8 +39,9 @@ class Messages : public QObject
 public:
     Messages()
     {
-        connect(BaseModule::IBaseSignal::getInstance(), &BaseModule::IBaseSignal::signal_showMessageType, this,
-                [this](int type, const QString& text) { list.append(QString::number(type) + QLatin1Char(' ') + text); });
+        connect(
+            BaseModule::IBaseSignal::getInstance(), &BaseModule::IBaseSignal::signal_showMessageType, this,
+            [this](int type, const QString& text) { list.append(QString::number(type) + QLatin1Char(' ') + text); });
     }
 
     QStringList list;

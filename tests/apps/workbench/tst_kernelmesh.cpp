@@ -24,7 +24,10 @@ const QByteArray twoTetrahedra = "$MeshFormat\n2.2 0 8\n$EndMeshFormat\n"
                                  "20 4 2 1 1 1 2 3 4\n"
                                  "15 4 2 %1 1 2 3 4 5\n$EndElements\n";
 
-QByteArray twoVolumes(int secondVolume) { return QByteArray(twoTetrahedra).replace("%1", QByteArray::number(secondVolume)); }
+QByteArray twoVolumes(int secondVolume)
+{
+    return QByteArray(twoTetrahedra).replace("%1", QByteArray::number(secondVolume));
+}
 
 KernelReading read(const QString& path)
 {
@@ -95,7 +98,8 @@ void tst_KernelMesh::skin()
 {
     QFETCH(int, secondVolume);
     QFETCH(int, faces);
-    const KernelReading reading = read(writeFile(m_directory.filePath(QStringLiteral("two.msh")), twoVolumes(secondVolume)));
+    const KernelReading reading =
+        read(writeFile(m_directory.filePath(QStringLiteral("two.msh")), twoVolumes(secondVolume)));
     QVERIFY2(reading.mesh, qPrintable(reading.problem));
     QCOMPARE(static_cast<int>(reading.mesh->faces.size()), faces);
     QCOMPARE(reading.mesh->box, (std::array<double, 6>{0, 1, 0, 1, 0, 1}));
@@ -167,10 +171,12 @@ void tst_KernelMesh::longLinesAreLeftOut()
     content += QByteArray(3 << 20, 'x') + "\nsecond\n" + QByteArray(700000, 'y') + "\nlast";
     QList<int> lengths;
     FileLines lines(writeFile(m_directory.filePath(QStringLiteral("long.txt")), content));
-    QVERIFY(lines.forEach([&lengths](const char* begin, const char* end) { lengths.append(static_cast<int>(end - begin)); },
-                          [](qint64, qint64) { return true; }));
+    QVERIFY(
+        lines.forEach([&lengths](const char* begin, const char* end) { lengths.append(static_cast<int>(end - begin)); },
+                      [](qint64, qint64) { return true; }));
     QCOMPARE(lengths, (QList<int>{5, 6, 700000, 4}));
-    QVERIFY(!FileLines(m_directory.filePath(QStringLiteral("absent"))).forEach([](const char*, const char*) {}, [](qint64, qint64) { return true; }));
+    QVERIFY(!FileLines(m_directory.filePath(QStringLiteral("absent")))
+                 .forEach([](const char*, const char*) {}, [](qint64, qint64) { return true; }));
 }
 
 // Without groups the two tetrahedra have sharp edges everywhere but where triangles lie in one plane.
@@ -199,9 +205,12 @@ void tst_KernelMesh::patchesOfSample()
         names[patch.faceID] = patch.name;
         triangles += patch.triangleCount;
     }
-    const std::map<int, QString> expected = {{2, QStringLiteral("clamped")}, {3, QStringLiteral("pulled")},
-                                             {4, QStringLiteral("hole")},    {5, QString()},
-                                             {6, QString()},                 {7, QString()},
+    const std::map<int, QString> expected = {{2, QStringLiteral("clamped")},
+                                             {3, QStringLiteral("pulled")},
+                                             {4, QStringLiteral("hole")},
+                                             {5, QString()},
+                                             {6, QString()},
+                                             {7, QString()},
                                              {8, QString()}};
     QCOMPARE(names, expected);
     QCOMPARE(triangles, static_cast<int>(reading.mesh->faces.size()));

@@ -61,11 +61,12 @@ void tst_Managers::opensInTheBackground()
     QObject context;
     connect(meshes, &MeshManager::signal_loadStarted, &context, [&log] { log << QStringLiteral("started"); });
     connect(meshes, &MeshManager::signal_kernalDataListChanged, &context, [&](const QList<int>& ids) {
-        log << QStringLiteral("kernel %1, %2 volumes").arg(ids.first()).arg(GeometryManager::instance()->getComponentCount());
+        log << QStringLiteral("kernel %1, %2 volumes")
+                   .arg(ids.first())
+                   .arg(GeometryManager::instance()->getComponentCount());
     });
-    connect(meshes, &MeshManager::signal_groupDataListChanged, &context, [&](const QMultiMap<int, int>& groups) {
-        log << QStringLiteral("groups %1").arg(groups.size());
-    });
+    connect(meshes, &MeshManager::signal_groupDataListChanged, &context,
+            [&](const QMultiMap<int, int>& groups) { log << QStringLiteral("groups %1").arg(groups.size()); });
     connect(meshes, &MeshManager::signal_loadFinished, &context,
             [&log](int kernelID) { log << QStringLiteral("finished %1").arg(kernelID); });
     QSignalSpy progress(meshes, &MeshManager::signal_loadProgress);
@@ -141,7 +142,8 @@ void tst_Managers::nodesAndElements()
     const QByteArray mesh = "$MeshFormat\n2.2 0 8\n$EndMeshFormat\n"
                             "$Nodes\n5\n1 0 0 0\n2 1 0 0\n3 0 1 0\n4 0 0 1\n5 1 1 2\n$EndNodes\n"
                             "$Elements\n2\n20 4 2 1 1 1 2 3 4\n15 4 2 1 1 2 3 4 5\n$EndElements\n";
-    const int id = meshes->addKernel(QStringLiteral("pair"), writeFile(m_directory.filePath(QStringLiteral("pair.msh")), mesh));
+    const int id =
+        meshes->addKernel(QStringLiteral("pair"), writeFile(m_directory.filePath(QStringLiteral("pair.msh")), mesh));
     QCOMPARE(id, 1);
     QCOMPARE(meshes->addKernel(QStringLiteral("pair"), m_directory.filePath(QStringLiteral("pair.msh"))), 0);
     QCOMPARE(meshes->addKernel(QStringLiteral("absent"), m_directory.filePath(QStringLiteral("absent.msh"))), 0);

@@ -60,7 +60,10 @@ private:
     QTemporaryDir m_directory;
 };
 
-void tst_Project::init() { QVERIFY(Project::instance()->create()); }
+void tst_Project::init()
+{
+    QVERIFY(Project::instance()->create());
+}
 
 void tst_Project::createMaterial(double value)
 {
@@ -314,7 +317,8 @@ void tst_Project::recentProjects()
     QCOMPARE(recent->paths().first(), path("recent-9.wbproj"));
     QVERIFY(QFile::remove(path("recent-8.wbproj")));
     QVERIFY(Project::instance()->open(path("recent-5.wbproj")));
-    QCOMPARE(recent->paths().mid(0, 3), (QStringList{path("recent-5.wbproj"), path("recent-9.wbproj"), path("recent-7.wbproj")}));
+    QCOMPARE(recent->paths().mid(0, 3),
+             (QStringList{path("recent-5.wbproj"), path("recent-9.wbproj"), path("recent-7.wbproj")}));
 }
 
 WORKBENCH_TEST_MAIN(tst_Project)

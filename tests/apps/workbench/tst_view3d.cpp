@@ -228,8 +228,9 @@ void tst_View3D::hiddenIsNotPicked()
 void tst_View3D::keysChangeTheMode()
 {
     InteractionManager* interaction = InteractionManager::getInstance();
-    const QList<QPair<Qt::Key, BaseModule::InteractionMode>> keys = {
-        {Qt::Key_Shift, BaseModule::Translate}, {Qt::Key_Alt, BaseModule::Rotate}, {Qt::Key_Control, BaseModule::Select}};
+    const QList<QPair<Qt::Key, BaseModule::InteractionMode>> keys = {{Qt::Key_Shift, BaseModule::Translate},
+                                                                     {Qt::Key_Alt, BaseModule::Rotate},
+                                                                     {Qt::Key_Control, BaseModule::Select}};
     interaction->setInteractionMode(BaseModule::Rotate);
     for (const auto& key : keys) {
         QTest::keyPress(m_canvas, key.first);
