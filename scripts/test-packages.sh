@@ -31,7 +31,7 @@ clean() {
 }
 trap clean EXIT
 
-in_tree() { chroot "$tree" /usr/bin/env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LC_ALL=C.UTF-8 \
+in_tree() { chroot "$tree" /usr/bin/env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME="$inside" LC_ALL=C.UTF-8 \
   DEBIAN_FRONTEND=noninteractive QT_QPA_PLATFORM=offscreen "$@"; }
 as_user() { in_tree setpriv --reuid 65534 --regid 65534 --clear-groups "$@"; }
 fail() { echo "test-packages: failed: $*" >&2; exit 1; }
@@ -102,8 +102,15 @@ for consumer in installed pkgconfig; do
   echo "built on the development package: $consumer"
 done
 
+# The desktop program opens its window and stays.
+mapfile -t desktop < <(cd "$work" && ls datamanager-workbench_*.deb 2>/dev/null)
+if [ "${#desktop[@]}" -gt 0 ]; then
+  install "${desktop[@]/#/$inside/}"
+  [ "$(exit_code as_user timeout 10 workbench -platform offscreen)" -eq 124 ] || { cat "$work/output"; fail "workbench"; }
+fi
+
 # Nothing stays behind.
-in_tree apt-get purge -y -qq libdatamanager0 libdatamanager-dev datamanager-tools datamanager-doc >"$work/apt.log" 2>&1
+in_tree apt-get purge -y -qq '^libdatamanager' '^datamanager-' >"$work/apt.log" 2>&1 || { cat "$work/apt.log"; fail "purge"; }
 left=$(find "$tree/usr" "$tree/etc" "$tree/var" -path "$tree/usr/share/doc/*" -prune -o -iname '*datamanager*' \
   ! -path '*/apt/*' ! -path '*/log/*' -print)
 [ -z "$left" ] || fail "left behind: $left"
