@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 DataManager contributors
 # SPDX-License-Identifier: BSD-3-Clause
 #
-# Completion of workbench for bash: it takes what every Qt program takes.
+# Completion of workbench for bash: it takes a file, and what every Qt program takes.
 
 _workbench()
 {
@@ -9,6 +9,13 @@ _workbench()
   COMPREPLY=()
   case "$previous" in
     -platform) mapfile -t COMPREPLY < <(compgen -W 'xcb wayland offscreen' -- "$current") ;;
-    *) mapfile -t COMPREPLY < <(compgen -W '-platform -style -stylesheet' -- "$current") ;;
+    *)
+      if [[ $current == -* ]]; then
+        mapfile -t COMPREPLY < <(compgen -W '-platform -style -stylesheet' -- "$current")
+      else
+        compopt -o filenames 2>/dev/null
+        mapfile -t COMPREPLY < <(compgen -f -- "$current")
+      fi
+      ;;
   esac
 } && complete -F _workbench workbench

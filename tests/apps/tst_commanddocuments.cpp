@@ -196,6 +196,7 @@ void TestCommandDocuments::completes_data()
     row("materials check oth", "other.json");
     row("materials show o", "");
     row("materials nonsense ", "");
+    row("workbench o", "one.msh other.json");
     row("workbench -pl", "-platform");
     row("workbench -platform of", "offscreen");
 }
