@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: BSD-3-Clause
 #
 # Installs what building and testing needs, on Debian 12 and 13, as root or with sudo; does nothing when all is there.
-#   scripts/setup.sh [--print-onnxruntime-root]
+#   scripts/setup.sh [--print-onnxruntime-root | --with-clang]
 # ONNX Runtime has no package in Debian 12, and Debian 13's registers its operators twice and prints more than a thousand
 # lines at each start. So on both its headers come from Debian 13's development package and the shared library from the
 # npm package that carries it, both pinned by checksum, into a private prefix below
@@ -109,6 +109,8 @@ case "$release" in
 esac
 
 install_packages "${packages[@]}"
+# For fuzzing alone.
+if [ "${1:-}" = --with-clang ]; then install_packages clang libclang-rt-dev; fi
 
 root=${ONNXRUNTIME_ROOT:-}
 if [ -z "$root" ]; then

@@ -39,6 +39,9 @@ QString readThreshold(const QJsonObject& object, Threshold& threshold)
     if (!areNumbers || (threshold.minimum == -unbounded && threshold.maximum == unbounded)) {
         return QCoreApplication::translate("meshquality", "%1 needs a number as minimum or maximum").arg(name);
     }
+    if (!(threshold.allowedPercent >= 0.0 && threshold.allowedPercent <= 100.0)) {
+        return QStringLiteral("%1 needs an allowedPercent from 0 to 100").arg(name);
+    }
     threshold.source = object.value(QLatin1String("source")).toString();
     return QString();
 }

@@ -32,7 +32,7 @@ void require(bool isTrue, const char* what, std::size_t place)
 DataManager::MeshTables streamedTables(const QString& path)
 {
     DataManager::MeshTables tables = DataManager::readMeshTables(path);
-#ifdef MESHREADER_DEFECT
+#ifdef FUZZ_DEFECT
     if (!tables.nodes.empty()) {
         tables.nodes.front().z = std::nextafter(tables.nodes.front().z, 2.0);
     }

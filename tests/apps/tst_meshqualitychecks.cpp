@@ -185,6 +185,11 @@ void MeshQualityChecksTest::refusesProfiles_data()
                                     << QByteArray("there is no metric 'Beauty'");
     QTest::newRow("no bound") << QByteArray(R"({"thresholds": [{"metric": "Shape"}]})")
                               << QByteArray("Shape needs a number as minimum or maximum");
+    for (const char* const percent : {"-1", "100.5"}) {
+        QTest::addRow("%s percent", percent)
+            << QByteArray(R"({"thresholds": [{"metric": "Shape", "minimum": 1, "allowedPercent": )") + percent + "}]}"
+            << QByteArray("Shape needs an allowedPercent from 0 to 100");
+    }
     QTest::newRow("text for a number") << QByteArray(R"({"thresholds": [{"metric": "Shape", "minimum": "1"}]})")
                                        << QByteArray("Shape needs a number as minimum or maximum");
 }
