@@ -44,9 +44,9 @@ double sixteenDigits(double value)
 /// and Qt choose different ones: both are as near.
 bool isAtSixteenDigits(double value, double read)
 {
-    constexpr double halfUnit = 5.0000001e-16;
+    constexpr double bound = 6.2e-16;
     return areSameBits(sixteenDigits(value), read) || (std::isnan(value) && std::isnan(read)) ||
-           std::fabs(read - value) <= std::fabs(value) * halfUnit;
+           std::fabs(read - value) <= std::fabs(value) * bound;
 }
 
 /// A comma parts fields, and a '%' may begin a place that another field fills.

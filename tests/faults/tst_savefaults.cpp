@@ -1,0 +1,268 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "SavedFile.h"
+
+#include <QElapsedTimer>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QtTest>
+
+#include <sys/statfs.h>
+
+namespace {
+
+#ifdef DATAMANAGER_EXHAUSTIVE_TESTS
+constexpr bool isExhaustive = true;
+#else
+constexpr bool isExhaustive = false;
+#endif
+
+const char* const errors[] = {"ENOSPC", "EIO", "EACCES", "EMFILE", "EDQUOT"};
+const char* const kinds[] = {"software", "project", "example", "coordinates", "plain"};
+// Of directory entries: what exists() asks with.
+const QString markCalls = QStringLiteral("?access,?faccessat,?faccessat2,?stat,?newfstatat,?statx");
+
+struct SystemCall
+{
+    QString name;
+    int count; ///< how many of this name there were, this one included
+};
+
+/// The calls between the marks of a trace.
+QList<SystemCall> callsOfTheSave(const QString& trace)
+{
+    static const QRegularExpression line(QStringLiteral("^(?:\\d+ +)?(\\w+)\\("));
+    QHash<QString, int> counts;
+    QList<SystemCall> calls;
+    bool isSaving = false;
+    for (const QString& entry : trace.split(QLatin1Char('\n'))) {
+        if (entry.contains(QLatin1String("/save-ends-here"))) {
+            break;
+        }
+        const auto match = line.match(entry);
+        const int count = match.hasMatch() ? ++counts[match.captured(1)] : 0;
+        if (isSaving && match.hasMatch()) {
+            calls.append({match.captured(1), count});
+        }
+        isSaving = isSaving || entry.contains(QLatin1String("/save-begins-here"));
+    }
+    return calls;
+}
+
+/// Until so many saves are finished and another one begins.
+bool waitForSaves(QProcess& process, int count)
+{
+    int lines = 0;
+    while (lines <= count && process.waitForReadyRead()) {
+        lines += process.readAllStandardOutput().count('\n');
+    }
+    return lines > count;
+}
+
+/// A place in memory and one on a disk.
+QStringList places()
+{
+    QStringList list = {QStringLiteral(DATAMANAGER_DISK_DIRECTORY)};
+    struct statfs memory = {};
+    constexpr auto tmpfs = 0x01021994;
+    if (::statfs("/dev/shm", &memory) == 0 && memory.f_type == tmpfs) {
+        list.prepend(QStringLiteral("/dev/shm"));
+    }
+    return list;
+}
+
+} // namespace
+
+/// Every system call of every save fails once, and the process is killed there once: the file holds the old content or
+/// the new one, the failure is logged, and the next start leaves nothing beside the file.
+class TestSaveFaults : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void survivesEveryFault_data();
+    void survivesEveryFault();
+    void survivesDeathAtAnyTime_data();
+    void survivesDeathAtAnyTime();
+    void cleanupTestCase();
+
+private:
+    /// One save of new content over old, traced.
+    struct Sweep
+    {
+        const SavedFile& file;
+        QByteArray old;
+        QString oldState;
+        QString newState;
+        QStringList save;
+    };
+
+    static QStringList injection(const SystemCall& call, const QString& fault);
+    void tryFault(const Sweep& sweep, const SystemCall& call, const QString& fault);
+    void checkEnd(const Sweep& sweep, const QString& place, const QString& log, bool isKilled);
+
+    QString m_strace = QStandardPaths::findExecutable(QStringLiteral("strace"));
+    int m_points = 0;
+    int m_oldContents = 0;
+    int m_newContents = 0;
+};
+
+void TestSaveFaults::survivesEveryFault_data()
+{
+    QTest::addColumn<QString>("place");
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<int>("size");
+    const QList<int> sizes = isExhaustive ? QList<int>{1, 16384, 16385, 1048576} : QList<int>{16385};
+    for (const QString& place : isExhaustive ? places() : places().mid(0, 1)) {
+        for (const char* const kind : kinds) {
+            for (const int size : sizes) {
+                QTest::addRow("%s, %d bytes, %s", kind, size, qPrintable(place.section(QLatin1Char('/'), -1)))
+                    << place << text(kind) << size;
+            }
+        }
+    }
+}
+
+void TestSaveFaults::survivesEveryFault()
+{
+    if (m_strace.isEmpty()) {
+        QSKIP("strace is not installed");
+    }
+    QFETCH(QString, place);
+    QFETCH(QString, kind);
+    QFETCH(int, size);
+    const SavedFile file(place, kind);
+    const int length = file.lengthFor(size);
+    QCOMPARE(file.log(file.saveArguments(QLatin1Char('o'), length)), QString());
+    const Sweep sweep = {file, contentOf(file.path()), QStringLiteral("o %1").arg(length),
+                         QStringLiteral("n %1").arg(length),
+                         QStringList(file.program()) + file.saveArguments(QLatin1Char('n'), length)};
+    QVERIFY(kind == text("project") || kind != text("plain") || sweep.old.size() == size);
+    QCOMPARE(file.loaded(), sweep.oldState);
+    file.restore(sweep.old);
+    const QString trace = file.program() + QStringLiteral(".trace");
+    QProcess process;
+    process.start(m_strace, QStringList{text("-f"), text("-o"), trace} + sweep.save);
+    QVERIFY(process.waitForFinished());
+    if (process.exitCode() != 0) {
+        QSKIP("a traced process fails: tracing is not permitted here, or the build is one for finding leaks");
+    }
+    QCOMPARE(file.loaded(), sweep.newState);
+    const QList<SystemCall> calls = callsOfTheSave(QString::fromLocal8Bit(contentOf(trace)));
+    QVERIFY(calls.size() > 5);
+    const int errorCount = int(std::size(errors));
+    for (int i = 0; i < calls.size(); ++i) {
+        for (int error = 0; error < errorCount; ++error) {
+            // The quick tier gives each call one of the errors, and kills at every other one.
+            const bool isDue = isExhaustive || i % errorCount == error;
+            // A lock within the process never fails with one of these; the C library ends the process if it does.
+            if (isDue && calls.at(i).name != text("futex")) {
+                tryFault(sweep, calls.at(i), QStringLiteral("error=") + text(errors[error]));
+            }
+        }
+        if (isExhaustive || i % 2 == 0) {
+            tryFault(sweep, calls.at(i), QStringLiteral("signal=SIGKILL"));
+        }
+        if (QTest::currentTestFailed()) {
+            return;
+        }
+    }
+}
+
+/// The options of strace for a fault at a call.
+QStringList TestSaveFaults::injection(const SystemCall& call, const QString& fault)
+{
+    // The kernel answers brk with the old end of the heap, never with an error.
+    const bool isHeap = call.name == text("brk") && fault.startsWith(text("error"));
+    const QString what = isHeap ? text("retval=0") : fault;
+    QStringList options = {text("-e"), text("trace=") + call.name + QLatin1Char(',') + markCalls, text("-e"),
+                           text("inject=%1:%2:when=%3").arg(call.name, what).arg(call.count)};
+    // Quicker, but forgets about signals.
+    return fault.startsWith(text("signal")) ? options : options << text("--seccomp-bpf");
+}
+
+void TestSaveFaults::tryFault(const Sweep& sweep, const SystemCall& call, const QString& fault)
+{
+    const bool isKilled = fault.startsWith(text("signal"));
+    const QString trace = sweep.file.program() + QStringLiteral(".trace");
+    const QStringList options = injection(call, fault);
+    // How often memory is asked for differs from run to run.
+    constexpr int attempts = 100;
+    bool isHit = false;
+    QProcess process;
+    for (int i = 0; i < attempts && !isHit; ++i) {
+        sweep.file.restore(sweep.old);
+        process.start(m_strace, QStringList{text("-f"), text("-o"), trace} + options + sweep.save);
+        QVERIFY(process.waitForFinished());
+        const QByteArray traced = contentOf(trace);
+        const int begin = traced.indexOf("/save-begins-here");
+        isHit = begin >= 0 && traced.indexOf(isKilled ? "+++ killed by SIGKILL" : "(INJECTED)") > begin;
+    }
+    // Nothing may be concluded from a save that went undisturbed.
+    const QString place = options.join(QLatin1Char(' '));
+    QVERIFY2(isHit, qPrintable(place));
+    ++m_points;
+    checkEnd(sweep, place, QString::fromLocal8Bit(process.readAllStandardError()).trimmed(), isKilled);
+}
+
+void TestSaveFaults::checkEnd(const Sweep& sweep, const QString& place, const QString& log, bool isKilled)
+{
+    const bool isOld = contentOf(sweep.file.path()) == sweep.old;
+    const QString state = sweep.file.loaded();
+    QVERIFY2(state == (isOld ? sweep.oldState : sweep.newState), qPrintable(place + QStringLiteral(": ") + state));
+    if (!isKilled) {
+        const QString expected = isOld ? sweep.file.failureLine() : QString();
+        // The cipher says first what failed.
+        QVERIFY2(log == expected || log == text("Encrypt text fail!\n") + expected,
+                 qPrintable(place + QStringLiteral(": ") + log));
+    }
+    QVERIFY2(sweep.file.neighbours() == QStringList{sweep.file.name()},
+             qPrintable(place + QStringLiteral(": ") + sweep.file.neighbours().join(QLatin1Char(' '))));
+    ++(isOld ? m_oldContents : m_newContents);
+}
+
+void TestSaveFaults::survivesDeathAtAnyTime_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<int>("kills");
+    for (const char* const kind : kinds) {
+        QTest::newRow(kind) << text(kind) << (isExhaustive ? 200 : 5);
+    }
+}
+
+void TestSaveFaults::survivesDeathAtAnyTime()
+{
+    QFETCH(QString, kind);
+    QFETCH(int, kills);
+    constexpr int length = 1000000;
+    const SavedFile file(QStringLiteral(DATAMANAGER_DISK_DIRECTORY), kind);
+    file.log(file.saveArguments(QLatin1Char('o'), length));
+    auto& random = *QRandomGenerator::global();
+    QSet<QString> states;
+    for (int i = 0; i < kills; ++i) {
+        QProcess process;
+        process.setStandardErrorFile(QProcess::nullDevice());
+        process.start(file.program(), file.loopArguments(length));
+        QVERIFY(waitForSaves(process, i % 3));
+        QThread::usleep(ulong(random.bounded(60000)));
+        process.kill();
+        QVERIFY(process.waitForFinished());
+        const QString state = file.loaded();
+        QVERIFY2(state.endsWith(QStringLiteral(" %1").arg(length)), qPrintable(state));
+        QCOMPARE(file.neighbours(), QStringList{file.name()});
+        states.insert(state);
+    }
+    states.remove(QStringLiteral("o %1").arg(length));
+    QVERIFY2(!states.isEmpty(), "no process was killed after a save");
+}
+
+void TestSaveFaults::cleanupTestCase()
+{
+    std::printf("%d faults injected and hit: %d left the old content, %d the new one\n", m_points, m_oldContents,
+                m_newContents);
+    QVERIFY(m_strace.isEmpty() || m_points == 0 || (m_oldContents > 0 && m_newContents > 0));
+}
+
+QTEST_GUILESS_MAIN(TestSaveFaults)
+#include "tst_savefaults.moc"
