@@ -21,7 +21,7 @@ fuzz() { # TARGET
   mkdir -p "$run/corpus"
   # Targets write their input into a file; in memory that is quick. Leaks are looked for when the suite replays the
   # corpus: telling Qt's own from ours takes call stacks that make this ten times slower.
-  TMPDIR=$([ -w /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}") \
+  ASAN_OPTIONS=detect_leaks=0 TMPDIR=$([ -w /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}") \
     "build-fuzz/bin/fuzz_$target" -max_total_time="$seconds" -max_len=4096 -timeout=60 -rss_limit_mb=4096 \
     -detect_leaks=0 -print_final_stats=1 -dict="fuzz/$target/$target.dict" -artifact_prefix="$run/" \
     "$run/corpus" "fuzz/$target/corpus" >"$run/log" 2>&1 || { tail -n 40 "$run/log" >&2; echo "fuzz: $target failed" >&2; return 1; }

@@ -15,6 +15,8 @@
 #include <QDebug>
 #include <QFileInfo>
 
+#include <new>
+
 using BaseModule::GlobalHelper;
 
 namespace DataManager {
@@ -59,8 +61,17 @@ void RelativeCoordinateSystemDate::readConfig()
     }
     // A copy, because every append below writes the record anew.
     const StoredSystems stored(*record);
-    for (int i = 0; i < stored.count(); ++i) {
-        appendCoordinateSystem(stored.rebuild(i));
+    const int keptCount = m_coordinateSystemList.size();
+    try {
+        for (int i = 0; i < stored.count(); ++i) {
+            appendCoordinateSystem(stored.rebuild(i));
+        }
+    } catch (const std::bad_alloc&) {
+        // A content that does not fit into the memory is read like an empty one, and stays in the file.
+        while (m_coordinateSystemList.size() > keptCount) {
+            delete m_coordinateSystemList.takeLast();
+        }
+        GlobalHelper::writeFile(filePath(), json, QIODevice::WriteOnly | QIODevice::Truncate);
     }
 }
 

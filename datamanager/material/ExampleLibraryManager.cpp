@@ -14,6 +14,7 @@
 #include <QCoreApplication>
 #include <QDebug>
 
+#include <new>
 #include <type_traits>
 #include <utility>
 
@@ -43,7 +44,11 @@ LibraryFile libraryFile(const QString& path)
 
 bool isWhole(const LibraryFile& file, const QByteArray& json, const ExampleLibData& record)
 {
-    return recordCoverage(json, file.classes).isComplete || !file.isComparable(record);
+    try {
+        return recordCoverage(json, file.classes).isComplete || !file.isComparable(record);
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
 }
 
 } // namespace

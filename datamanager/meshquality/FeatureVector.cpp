@@ -9,6 +9,8 @@
 #include <QCoreApplication>
 #include <QFile>
 
+#include <new>
+
 namespace DataManager {
 
 namespace {
@@ -56,6 +58,16 @@ FeatureMeans featureMeans(const MeshTables& mesh)
     return sums.means();
 }
 
+/// Those of an empty mesh when the mesh does not fit into the memory.
+FeatureMeans featureMeansOf(const QString& path)
+{
+    try {
+        return featureMeans(readMeshTables(path));
+    } catch (const std::bad_alloc&) {
+        return featureMeans(MeshTables());
+    }
+}
+
 } // namespace
 
 void MeshQualityPredict::getInput(float* input)
@@ -64,7 +76,7 @@ void MeshQualityPredict::getInput(float* input)
     if (input == nullptr || !QFile::exists(path)) {
         return;
     }
-    const FeatureMeans means = featureMeans(readMeshTables(path));
+    const FeatureMeans means = featureMeansOf(path);
     std::copy(means.begin(), means.end(), input);
 }
 

@@ -10,6 +10,7 @@
 
 #include <QFileInfo>
 
+#include <new>
 #include <numeric>
 
 namespace DataManager {
@@ -201,6 +202,15 @@ bool MeshQualityReport::measure(const QString& path, const Progress& progress)
     if (!file.isFile()) {
         return fail(Problem::NotRegularFile, QStringLiteral("not a regular file"));
     }
+    try {
+        return measureFile(path, progress);
+    } catch (const std::bad_alloc&) {
+        return fail(Problem::Unreadable, QStringLiteral("does not fit into the memory"));
+    }
+}
+
+bool MeshQualityReport::measureFile(const QString& path, const Progress& progress)
+{
     Scan scan(path, progress);
     if (!scan.isOpen()) {
         return fail(Problem::Unreadable, QStringLiteral("cannot be opened"));

@@ -217,6 +217,7 @@ public:
 private:
     class Scan;
 
+    bool measureFile(const QString& path, const Progress& progress);
     bool fail(Problem problem, const QString& text);
     QString noTetrahedraText() const;
     void takeDoubts(const Scan& scan);

@@ -6,6 +6,8 @@
 #include <datamanager/meshquality/private/MeshTables.h>
 #include <datamanager/meshquality/private/VectorTable.h>
 
+#include <new>
+
 namespace DataManager {
 
 namespace {
@@ -29,8 +31,9 @@ bool namesNodes(const QVector<int>& numbers, int nodeCount)
 
 } // namespace
 
-void MeshQualityPredict::get_Nodes_Elements(QString path, QVector<QVector<double>>& nodes,
-                                            QVector<QVector<int>>& elements)
+namespace {
+
+void appendMesh(const QString& path, QVector<QVector<double>>& nodes, QVector<QVector<int>>& elements)
 {
     MeshTables tables = tablesWithNodes(nodes);
     LineSource lines(path);
@@ -44,6 +47,22 @@ void MeshQualityPredict::get_Nodes_Elements(QString path, QVector<QVector<double
     elements.reserve(elements.size() + static_cast<int>(tables.tetrahedra.size()));
     for (const NodeNumbers& numbers : tables.tetrahedra) {
         elements.append({numbers[0], numbers[1], numbers[2], numbers[3]});
+    }
+}
+
+} // namespace
+
+void MeshQualityPredict::get_Nodes_Elements(QString path, QVector<QVector<double>>& nodes,
+                                            QVector<QVector<int>>& elements)
+{
+    const int nodeCount = nodes.size();
+    const int elementCount = elements.size();
+    try {
+        appendMesh(path, nodes, elements);
+    } catch (const std::bad_alloc&) {
+        // A mesh that does not fit into the memory is read like an empty file.
+        nodes.resize(nodeCount);
+        elements.resize(elementCount);
     }
 }
 

@@ -9,6 +9,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <new>
+
 namespace BaseModule {
 
 namespace {
@@ -17,6 +19,21 @@ QString& projectDirectory()
 {
     static QString directory;
     return directory;
+}
+
+/// False when anything fails, also when the file does not fit into the memory.
+bool readAll(const QString& path, QByteArray& content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    try {
+        content = file.readAll();
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+    return file.error() == QFileDevice::NoError;
 }
 
 } // namespace
@@ -28,12 +45,8 @@ bool GlobalHelper::readFile(QString path, QByteArray& out)
     if (path.contains(QChar::Null) || !QFileInfo(path).isFile()) {
         return false;
     }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    const QByteArray content = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
+    QByteArray content;
+    if (!readAll(path, content)) {
         return false;
     }
     out = content;

@@ -7,6 +7,9 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QScopedPointer>
+
+#include <utility>
 
 namespace QJsonHelper {
 
@@ -25,24 +28,38 @@ QJsonValue writeList(const QVector<QObject*>& records, const QMetaObject& meta, 
     return array;
 }
 
-/// The new record of a JSON object, null for `null`; false for other types and for records that cannot be created.
-bool createRecord(const QJsonValue& json, const QMetaObject& meta, QVector<QObject*>& records)
+/// Records on their way into a property: nobody else owns them when memory runs out.
+struct OwnedRecords
 {
-    QObject* const record = json.isObject() ? meta.newInstance() : nullptr;
-    if (record == nullptr && !json.isNull()) {
+    OwnedRecords() = default;
+    ~OwnedRecords() { qDeleteAll(list); }
+    Q_DISABLE_COPY(OwnedRecords)
+
+    /// The records, which the caller takes.
+    QVector<QObject*> take() { return std::exchange(list, {}); }
+
+    QVector<QObject*> list;
+};
+
+/// The new record of a JSON object, null for `null`; false for other types and for records that cannot be created.
+bool createRecord(const QJsonValue& json, const QMetaObject& meta, OwnedRecords& records)
+{
+    QScopedPointer<QObject> record(json.isObject() ? meta.newInstance() : nullptr);
+    if (record.isNull() && !json.isNull()) {
         return false;
     }
-    if (record != nullptr) {
-        readRecord(json.toObject(), record, meta);
+    if (!record.isNull()) {
+        readRecord(json.toObject(), record.data(), meta);
     }
-    records.append(record);
+    records.list.append(record.data());
+    record.take();
     return true;
 }
 
 QVariant readOne(const QJsonValue& json, const RecordType& type)
 {
-    QVector<QObject*> records;
-    return createRecord(json, *type.meta, records) ? type.wrap(records) : QVariant();
+    OwnedRecords records;
+    return createRecord(json, *type.meta, records) ? type.wrap(records.take()) : QVariant();
 }
 
 /// Elements that are no records are passed over.
@@ -51,13 +68,13 @@ QVariant readList(const QJsonValue& json, const RecordType& type)
     if (!json.isArray()) {
         return {};
     }
-    QVector<QObject*> records;
+    OwnedRecords records;
     const QJsonArray array = json.toArray();
-    records.reserve(array.size());
+    records.list.reserve(array.size());
     for (const QJsonValue element : array) {
         createRecord(element, *type.meta, records);
     }
-    return type.wrap(records);
+    return type.wrap(records.take());
 }
 
 } // namespace

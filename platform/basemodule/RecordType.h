@@ -56,9 +56,18 @@ template <class Record>
 QVariant wrapRecordList(const QVector<QObject*>& records)
 {
     QList<QSharedPointer<Record>> list;
-    list.reserve(records.size());
-    for (QObject* record : records) {
-        list.append(QSharedPointer<Record>(static_cast<Record*>(record)));
+    auto next = records.begin();
+    try {
+        list.reserve(records.size());
+        while (next != records.end()) {
+            const QSharedPointer<Record> record(static_cast<Record*>(*next));
+            ++next;
+            list.append(record);
+        }
+    } catch (...) {
+        // Memory ran out: what no pointer owns yet would be lost.
+        qDeleteAll(next, records.end());
+        throw;
     }
     return QVariant::fromValue(list);
 }

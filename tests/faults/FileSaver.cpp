@@ -8,7 +8,7 @@
 //   filesaver loop KIND LENGTH          saves the letters a to z in turn until it is killed, a line printed before each
 //   filesaver load KIND                 starts anew and prints what it finds: "LETTER LENGTH", "nothing" or "mixed"
 //   filesaver memory KIND               loads, and prints by how many bytes the most memory used grew
-// KIND is software, project, example or coordinates, or plain for a file without any record.
+// KIND is software, project, example or coordinates, or plain for a file without any record; mesh can only be loaded.
 // FILESAVER_FILE_SIZE limits the size of files while saving, FILESAVER_PROJECT names another project directory, and
 // FILESAVER_MEMORY limits the address space, beyond what is in use, while loading. With FILESAVER_NOBODY the process
 // gives up root's rights.
@@ -17,6 +17,8 @@
 #include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
 #include <datamanager/material/ExampleLibraryManager.h>
 #include <datamanager/material/MaterialLibraryManager.h>
+#include <datamanager/meshquality/MeshQualityPredict.h>
+#include <datamanager/meshquality/MeshQualityReport.h>
 
 #include <basemodule/GlobalHelper.h>
 #include <datamodel/ExampleLibData.h>
@@ -149,6 +151,21 @@ QString nameOf(const QSharedPointer<DataModel::MaterialData>& material)
     return material.isNull() ? QString() : material->englishName;
 }
 
+/// All that is read of a mesh: its tables, its features and its report. Not empty when there are tetrahedra.
+QString meshText()
+{
+    const QString path = QCoreApplication::applicationDirPath() + QStringLiteral("/../temp/mesh.msh");
+    QVector<QVector<double>> nodes;
+    QVector<QVector<int>> elements;
+    DataManager::MeshQualityPredict* const predict = DataManager::MeshQualityPredict::getinstance();
+    predict->get_Nodes_Elements(path, nodes, elements);
+    float features[11] = {};
+    predict->getInput(features);
+    DataManager::MeshQualityReport report;
+    report.measure(path);
+    return elements.isEmpty() ? QString() : QStringLiteral("mesh");
+}
+
 const std::map<QString, Kind> kinds = {
     {QStringLiteral("software"),
      {[] { materials(); }, saveSoftware, [] { return nameOf(materials().getSoftwareMatByID(1)); }}},
@@ -157,6 +174,7 @@ const std::map<QString, Kind> kinds = {
     {QStringLiteral("example"), {[] { examples(); }, saveExample, exampleText}},
     {QStringLiteral("coordinates"), {openSystems, saveSystem, systemText}},
     {QStringLiteral("plain"), {[] { plainText(); }, savePlain, plainText}},
+    {QStringLiteral("mesh"), {[] {}, [](const QString&) {}, meshText}},
 };
 
 /// Here and not before the start, because the libraries may lie where only root can read.

@@ -41,6 +41,9 @@ public:
         if (m_kind == QLatin1String("plain")) {
             return m_kind;
         }
+        if (m_kind == QLatin1String("mesh")) {
+            return QStringLiteral("mesh.msh");
+        }
         if (m_kind == QLatin1String("coordinates")) {
             return QStringLiteral("RelativeCoordinateSystemDate.json");
         }

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <memory>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -191,7 +192,7 @@ int StoredSystems::count() const
 
 RelativeCoordinateSystem* StoredSystems::rebuild(int index) const
 {
-    auto* const system = new RelativeCoordinateSystem;
+    auto system = std::make_unique<RelativeCoordinateSystem>();
     system->setID(m_ids.at(index));
     system->setBasicCoordinateSystemID(m_basicIDs.value(index));
     system->setName(m_names.value(index));
@@ -199,7 +200,7 @@ RelativeCoordinateSystem* StoredSystems::rebuild(int index) const
     rebuildOffsets(*system, index);
     rebuildRotations(*system, index);
     rebuildActorRotations(*system, index);
-    return system;
+    return system.release();
 }
 
 void StoredSystems::rebuildTypes(RelativeCoordinateSystem& system, int index) const

@@ -15,6 +15,8 @@
 #include <QHash>
 #include <QJsonDocument>
 
+#include <new>
+
 namespace DataManager {
 
 namespace {
@@ -69,8 +71,13 @@ bool isLibrary(const LibraryFile& file, const QByteArray& bytes)
 bool isDispensable(const LibraryFile& file, bool isTrusted)
 {
     QByteArray bytes;
-    return GlobalHelper::readFile(file.path, bytes) &&
-           (bytes.isEmpty() || (isTrusted && isLibrary(file, bytes)) || KeptCopy::keep(file.path, bytes));
+    try {
+        return GlobalHelper::readFile(file.path, bytes) &&
+               (bytes.isEmpty() || (isTrusted && isLibrary(file, bytes)) || KeptCopy::keep(file.path, bytes));
+    } catch (const std::bad_alloc&) {
+        // What does not fit into the memory stays where it is.
+        return false;
+    }
 }
 
 } // namespace

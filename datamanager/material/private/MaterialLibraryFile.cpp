@@ -14,6 +14,8 @@
 
 #include <QDebug>
 
+#include <new>
+
 namespace DataManager {
 
 namespace {
@@ -107,6 +109,17 @@ bool parse(const MaterialLibrary& library, const LibraryFile& file, const QByteA
     return true;
 }
 
+/// As `parse`; a content that does not fit into the memory leaves an empty library.
+bool parseWithinMemory(const MaterialLibrary& library, const LibraryFile& file, const QByteArray& bytes)
+{
+    try {
+        return parse(library, file, bytes);
+    } catch (const std::bad_alloc&) {
+        library.materials.clear();
+        return true;
+    }
+}
+
 QByteArray jsonOf(const MaterialMap& materials)
 {
     MaterialDataArray content;
@@ -126,7 +139,7 @@ void loadMaterialLibrary(MaterialLibrary library, const QString& path)
         logPath(library.kind.readFailure, path);
     }
     const bool isParsing = isRead || library.kind.isApplicationWide;
-    if (isParsing && !parse(library, file, bytes) && library.kind.isApplicationWide) {
+    if (isParsing && !parseWithinMemory(library, file, bytes) && library.kind.isApplicationWide) {
         return;
     }
     library.nextID = library.materials.size() + 1;
