@@ -39,10 +39,11 @@ QByteArray material(int id)
            R"(,"property2":)" + property + R"(,"property3":null,"property4":null,"property5":null,"isDeleted":false})";
 }
 
-QByteArray materials()
+/// As many as the whole needs.
+QByteArray materials(int wholeSize = size)
 {
     QByteArray elements = material(1);
-    for (int id = 2; elements.size() < size; ++id) {
+    for (int id = 2; elements.size() < wholeSize; ++id) {
         elements += ',' + material(id);
     }
     return list("materialList", elements);
@@ -65,6 +66,7 @@ class TestFileMemory : public QObject
 private Q_SLOTS:
     void isBounded_data();
     void isBounded();
+    void loadsManyRecords();
     void isShort_data();
     void isShort();
 };
@@ -120,6 +122,18 @@ void TestFileMemory::isBounded()
     const QString grown = file.output(file.memoryArguments());
     QVERIFY2(grown.toLongLong() > 0 && grown.toLongLong() <= 20LL * content.size() + 64 * 1024 * 1024,
              qPrintable(text("%1 bytes for a file of %2").arg(grown).arg(content.size())));
+}
+
+/// More than a hundred thousand, and as many that are as small as they can be written.
+void TestFileMemory::loadsManyRecords()
+{
+    const SavedFile file(QDir::tempPath(), text("software"));
+    file.restore(materials(100000 * material(100000).size()));
+    QCOMPARE(file.loaded(), text("e 1"));
+    const QByteArray smallest = R"({"chineseName":"","englishName":"e","id":1,"property1":null,"property2":null,)"
+                                R"("property3":null,"property4":null,"property5":null,"isDeleted":false})";
+    file.restore(list("materialList", (smallest + ',').repeated(200000) + smallest));
+    QCOMPARE(file.loaded(), text("e 1"));
 }
 
 void TestFileMemory::isShort_data()
