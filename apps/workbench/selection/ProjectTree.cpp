@@ -106,7 +106,7 @@ QTreeWidgetItem* ProjectTree::makeItem(const ProjectTreeLine& line, const QStrin
     item->setData(0, Qt::UserRole,
                   QVariantList{static_cast<int>(line.kind), line.selectModel, line.firstID, line.secondID});
     item->setData(1, Qt::UserRole, path);
-    item->setForeground(1, palette().brush(QPalette::Disabled, QPalette::Text));
+    item->setForeground(1, QColor(95, 105, 118));
     item->setToolTip(0, line.text);
     if (line.kind == ProjectTreeLine::Kind::Heading) {
         QFont font = m_tree->font();

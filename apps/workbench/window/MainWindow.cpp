@@ -42,11 +42,12 @@ MainWindow::~MainWindow() = default;
 
 void MainWindow::createDocks()
 {
-    addDock(new ProjectTree(this), Qt::LeftDockWidgetArea);
+    QDockWidget* tree = addDock(new ProjectTree(this), Qt::LeftDockWidgetArea);
     addDock(new PropertyTable(this), Qt::LeftDockWidgetArea, true);
     QDockWidget* messages = addDock(new MessagePanel(this), Qt::BottomDockWidgetArea);
     // A room is added by one line: addDock(new View(this), Qt::RightDockWidgetArea);
     resizeDocks({messages}, {130}, Qt::Vertical);
+    resizeDocks({tree}, {300}, Qt::Horizontal);
 }
 
 QDockWidget* MainWindow::addDock(QWidget* view, Qt::DockWidgetArea area, bool isBeside)
