@@ -3,12 +3,14 @@
 
 #include <datamanager/meshquality/private/FeatureSums.h>
 
+#include <datamanager/meshquality/private/LargePages.h>
+
 namespace DataManager {
 
 void FeatureSums::reserve(std::size_t elements)
 {
-    m_volumes.reserve(elements);
-    m_shapes.reserve(elements);
+    reserveInLargePages(m_volumes, elements);
+    reserveInLargePages(m_shapes, elements);
 }
 
 void FeatureSums::add(const Tetrahedron::Measures& element)

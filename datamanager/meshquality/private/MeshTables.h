@@ -20,6 +20,9 @@ public:
     std::vector<Tetrahedron::Vector> nodes;
     std::vector<NodeNumbers> tetrahedra;
 
+    /// Makes room for what a file of this size usually holds; it may hold more.
+    void expect(qint64 fileSize);
+
     void node(const Tetrahedron::Vector& position, TextRange) { nodes.push_back(position); }
     void tetrahedron(const NodeNumbers& corners, TextRange)
     {
@@ -47,10 +50,10 @@ public:
         const NodeNumbers& numbers = tetrahedra[element];
         return {position(numbers[0]), position(numbers[1]), position(numbers[2]), position(numbers[3])};
     }
-
-private:
+    /// The node of this number, which exists.
     const Tetrahedron::Vector& position(int number) const { return nodes[static_cast<std::size_t>(number) - 1]; }
 
+private:
     // Elements whose nodes were not there when their line was read; a node section that follows may bring them.
     std::vector<std::size_t> m_doubtful;
 };
