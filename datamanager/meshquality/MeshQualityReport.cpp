@@ -109,11 +109,6 @@ private:
 
 namespace {
 
-bool repeatsNode(const NodeNumbers& n)
-{
-    return n[0] == n[1] || n[0] == n[2] || n[0] == n[3] || n[1] == n[2] || n[1] == n[3] || n[2] == n[3];
-}
-
 std::array<double, 3> centre(const Tetrahedron::Corners& p)
 {
     return {(p[0].x + p[1].x + p[2].x + p[3].x) / 4.0, (p[0].y + p[1].y + p[2].y + p[3].y) / 4.0,

@@ -133,11 +133,14 @@ public:
         int physicalTag;
         /// Empty when the file does not name the group.
         QString name;
-        int elementCount;  ///< tetrahedra of the group
-        int invertedCount; ///< those with a negative volume
-        int flatCount;     ///< those with a volume of zero
+        int elementCount;       ///< tetrahedra of the group
+        int invertedCount;      ///< those with a negative volume
+        int flatCount;          ///< those with a volume of zero
+        int duplicateNodeCount; ///< those that name a node twice
         /// By metric.
         std::array<Summary, metricCount> summaries;
+        /// In the order of the file.
+        std::vector<int> elements;
     };
 
     /// Told how many of how many bytes are read, now and then; false cancels.
@@ -204,10 +207,14 @@ public:
     Summary summary(Metric metric) const;
     /// `bins` is at least 1. Empty counts where there is no finite value.
     Histogram histogram(Metric metric, int bins) const;
+    /// The same of the elements of one physical group.
+    Histogram histogram(Metric metric, int bins, const Region& region) const;
     /// The `count` worst elements by a metric, the worst first, of equals the first in the file. Worse than every
     /// number is no number, then an infinite value; of inverted elements, whose sign may be turned round, all are worse
     /// than those that are not.
     std::vector<int> worst(Metric metric, int count) const;
+    /// The same of the elements of one physical group.
+    std::vector<int> worst(Metric metric, int count, const Region& region) const;
     /// The physical groups that hold tetrahedra, by tag.
     std::vector<Region> regions() const;
 
@@ -224,6 +231,9 @@ private:
     void take(Scan& scan);
     void takeGeometry(Scan& scan);
     void measureElements(const Scan& scan);
+    std::vector<double> valuesOf(Metric metric, const std::vector<int>& elements) const;
+    std::vector<int> worstOf(std::vector<int> elements, Metric metric, int count) const;
+    Region region(int physicalTag, std::vector<int> elements) const;
 
     Problem m_problem = Problem::None;
     QString m_problemText;

@@ -4,6 +4,7 @@
 #include <datamanager/meshquality/MeshQualityReport.h>
 
 #include <datamanager/meshquality/private/Distribution.h>
+#include <datamanager/meshquality/private/MeshTables.h>
 
 #include <algorithm>
 #include <cmath>
@@ -70,11 +71,26 @@ MeshQualityReport::Histogram MeshQualityReport::histogram(Metric metric, int bin
     return Distribution::histogram(values(metric), bins);
 }
 
+MeshQualityReport::Histogram MeshQualityReport::histogram(Metric metric, int bins, const Region& region) const
+{
+    return Distribution::histogram(valuesOf(metric, region.elements), bins);
+}
+
 std::vector<int> MeshQualityReport::worst(Metric metric, int count) const
 {
     std::vector<int> elements(static_cast<std::size_t>(elementCount()));
     std::iota(elements.begin(), elements.end(), 0);
-    const auto kept = elements.begin() + std::clamp(count, 0, elementCount());
+    return worstOf(std::move(elements), metric, count);
+}
+
+std::vector<int> MeshQualityReport::worst(Metric metric, int count, const Region& region) const
+{
+    return worstOf(region.elements, metric, count);
+}
+
+std::vector<int> MeshQualityReport::worstOf(std::vector<int> elements, Metric metric, int count) const
+{
+    const auto kept = elements.begin() + std::clamp(count, 0, static_cast<int>(elements.size()));
     const auto badnessOf = [this, metric](int element) {
         const std::size_t place = static_cast<std::size_t>(element);
         return badness(values(metric)[place], values(Metric::Volume)[place], isWorseWhenLarger(metric));
@@ -90,28 +106,38 @@ std::vector<int> MeshQualityReport::worst(Metric metric, int count) const
 
 std::vector<MeshQualityReport::Region> MeshQualityReport::regions() const
 {
-    QMap<int, std::vector<std::size_t>> elements;
-    for (std::size_t i = 0; i < m_physicalTags.size(); ++i) {
-        elements[m_physicalTags[i]].push_back(i);
+    QMap<int, std::vector<int>> elements;
+    for (int element = 0; element < elementCount(); ++element) {
+        elements[physicalTag(element)].push_back(element);
     }
     std::vector<Region> result;
-    for (auto group = elements.cbegin(); group != elements.cend(); ++group) {
-        Region region{group.key(), m_groupNames.value(group.key()), static_cast<int>(group->size()), 0, 0, {}};
-        for (std::size_t metric = 0; metric < metricCount; ++metric) {
-            std::vector<double> list;
-            list.reserve(group->size());
-            for (const std::size_t element : *group) {
-                list.push_back(m_values[metric][element]);
-            }
-            region.summaries[metric] = Distribution::summary(std::move(list));
-        }
-        const std::vector<double>& volumes = values(Metric::Volume);
-        for (const std::size_t element : *group) {
-            region.invertedCount += volumes[element] < 0.0 ? 1 : 0;
-            region.flatCount += volumes[element] == 0.0 ? 1 : 0;
-        }
-        result.push_back(region);
+    for (auto group = elements.begin(); group != elements.end(); ++group) {
+        result.push_back(region(group.key(), std::move(*group)));
     }
+    return result;
+}
+
+MeshQualityReport::Region MeshQualityReport::region(int physicalTag, std::vector<int> elements) const
+{
+    Region region{physicalTag, m_groupNames.value(physicalTag), static_cast<int>(elements.size()), 0, 0, 0, {}, {}};
+    for (std::size_t metric = 0; metric < metricCount; ++metric) {
+        region.summaries[metric] = Distribution::summary(valuesOf(static_cast<Metric>(metric), elements));
+    }
+    for (const int element : elements) {
+        const double volume = values(Metric::Volume)[static_cast<std::size_t>(element)];
+        region.invertedCount += volume < 0.0 ? 1 : 0;
+        region.flatCount += volume == 0.0 ? 1 : 0;
+        region.duplicateNodeCount += repeatsNode(corners(element)) ? 1 : 0;
+    }
+    region.elements = std::move(elements);
+    return region;
+}
+
+std::vector<double> MeshQualityReport::valuesOf(Metric metric, const std::vector<int>& elements) const
+{
+    std::vector<double> result(elements.size());
+    std::transform(elements.begin(), elements.end(), result.begin(),
+                   [&all = values(metric)](int element) { return all[static_cast<std::size_t>(element)]; });
     return result;
 }
 

@@ -199,6 +199,16 @@ void ReportAnswersTest::splitsIntoRegions()
     QCOMPARE(regions[1].invertedCount, 1);
     QCOMPARE(regions[1].flatCount, 2);
     QCOMPARE(regions[1].summaries[9].nonFinite, 2);
+    QCOMPARE(regions[0].duplicateNodeCount, 0);
+    QCOMPARE(regions[1].duplicateNodeCount, 1);
+    QCOMPARE(regions[0].elements, (std::vector<int>{0, 1}));
+    QCOMPARE(regions[1].elements, (std::vector<int>{2, 3, 4, 5}));
+    QCOMPARE(report.worst(Metric::Volume, 9, regions[0]), (std::vector<int>{0, 1}));
+    QCOMPARE(report.worst(Metric::Volume, 1, regions[1]), (std::vector<int>{3}));
+    const MeshQualityReport::Histogram volumes = report.histogram(Metric::Volume, 2, regions[0]);
+    QCOMPARE(volumes.lower, 1.0 / 6);
+    QCOMPARE(volumes.upper, 2.0 / 6);
+    QCOMPARE(volumes.counts, (std::vector<int>{1, 1}));
 }
 
 void ReportAnswersTest::knowsRegionsOfASample()

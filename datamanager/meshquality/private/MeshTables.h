@@ -58,6 +58,11 @@ private:
     std::vector<std::size_t> m_doubtful;
 };
 
+inline bool repeatsNode(const NodeNumbers& n)
+{
+    return n[0] == n[1] || n[0] == n[2] || n[0] == n[3] || n[1] == n[2] || n[1] == n[3] || n[2] == n[3];
+}
+
 /// Removes the entries at these places, which are in order.
 template <class Entry>
 void removeAt(std::vector<Entry>& entries, const std::vector<std::size_t>& places)
