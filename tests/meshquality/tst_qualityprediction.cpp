@@ -1,71 +1,23 @@
 // SPDX-FileCopyrightText: 2026 DataManager contributors
 // SPDX-License-Identifier: BSD-3-Clause
 
-#include "MeshFiles.h"
-
-#include <datamanager/meshquality/MeshQualityPredict.h>
-
-#include <onnxruntime_cxx_api.h>
-
-#include <QtTest>
+#include "PredictionTest.h"
+#include "StandardOutput.h"
 
 #include <cmath>
-#include <cstdio>
 #include <limits>
-#include <unistd.h>
 
 using DataManager::MeshQualityPredict;
-using History = std::vector<float>;
 
-/// What is written to standard output during its lifetime.
-class StandardOutput
-{
-public:
-    StandardOutput() : m_file(std::tmpfile()), m_saved(dup(1))
-    {
-        std::fflush(stdout);
-        dup2(fileno(m_file), 1);
-    }
-    ~StandardOutput()
-    {
-        text();
-        std::fclose(m_file);
-    }
-    QByteArray text()
-    {
-        if (m_saved >= 0) {
-            std::fflush(stdout);
-            dup2(m_saved, 1);
-            close(m_saved);
-            m_saved = -1;
-            std::rewind(m_file);
-            QFile file;
-            file.open(m_file, QIODevice::ReadOnly);
-            m_text = file.readAll();
-        }
-        return m_text;
-    }
-
-private:
-    std::FILE* m_file;
-    int m_saved;
-    QByteArray m_text;
-};
-
-class QualityPredictionTest : public QObject
+/// The cycle of predict(), and the history of scores.
+class QualityPredictionTest : public PredictionTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void handsOutOneInstance();
     void startsEmpty();
     void copiesMembers();
-    void throwsWhenTheModelCannotBeLoaded_data();
-    void throwsWhenTheModelCannotBeLoaded();
-    void throwsWhenTheModelDoesNotFit_data();
-    void throwsWhenTheModelDoesNotFit();
-    void scoresAfterAnEarlierFailure();
     void recordsClampedScores_data();
     void recordsClampedScores();
     void keepsTenScores();
@@ -73,55 +25,11 @@ private Q_SLOTS:
     void comparesTenFeaturesOnly();
     void drawsTheLineAtTheThreshold_data();
     void drawsTheLineAtTheThreshold();
-    void namesTheModelFile();
-    void startsNoThreads();
     void scoresZerosWithoutMesh();
-    void keepsTheLoadedModel();
-    void usesTheGivenInputSize();
-    void warnsOfMissingInputSize();
-    void throwsWithoutModelOrInput();
-    void replacesTheModelOnlyByAGoodOne();
     void measuresAngles();
     void measuresLengths();
     void agreesWithTheModelThatComesWithIt();
-
-private:
-    static QString directory() { return QCoreApplication::applicationDirPath() + QStringLiteral("/../"); }
-    static QString fixture(const char* name)
-    {
-        return QStringLiteral(DATAMANAGER_SOURCE_DIR "/tests/meshquality/models/%1.onnx")
-            .arg(QString::fromLatin1(name));
-    }
-    static void installModel(const char* name)
-    {
-        QFile::remove(directory() + QStringLiteral("mesher/mesh.onnx"));
-        QVERIFY(QFile::copy(fixture(name), directory() + QStringLiteral("mesher/mesh.onnx")));
-    }
-    static void installMesh(const QVector<QVector<double>>& corners)
-    {
-        MeshFiles::write(directory() + QStringLiteral("temp/mesh.msh"), MeshFiles::oneTetrahedron(corners));
-    }
-    /// A right corner with legs of this length: volume edge^3 / 6.
-    static QVector<QVector<double>> corner(double edge)
-    {
-        return {{0, 0, 0}, {edge, 0, 0}, {0, edge, 0}, {0, 0, edge}};
-    }
-    static History endingWith(const History& scores)
-    {
-        History history(10 - scores.size(), 0.0F);
-        history.insert(history.end(), scores.begin(), scores.end());
-        return history;
-    }
 };
-
-void QualityPredictionTest::init()
-{
-    // As in a new process.
-    delete MeshQualityPredict::s_session;
-    MeshQualityPredict::s_session = nullptr;
-    QFile::remove(directory() + QStringLiteral("mesher/mesh.onnx"));
-    QFile::remove(directory() + QStringLiteral("temp/mesh.msh"));
-}
 
 void QualityPredictionTest::handsOutOneInstance()
 {
@@ -162,87 +70,6 @@ void QualityPredictionTest::copiesMembers()
         QCOMPARE(other.m_lastInput[9], 3.0F);
         QCOMPARE(other.getOutput(), endingWith({0.5F}));
     }
-}
-
-void QualityPredictionTest::throwsWhenTheModelCannotBeLoaded_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QFile model(fixture("volume"));
-    QVERIFY(model.open(QIODevice::ReadOnly));
-    const QByteArray good = model.readAll();
-    QTest::newRow("missing") << QByteArray();
-    QTest::newRow("empty") << QByteArray("");
-    QTest::newRow("text") << QByteArray("this is no model\n");
-    for (int size = 16; size < good.size() - 16; size += 16) {
-        QTest::addRow("cut after %d bytes", size) << good.left(size);
-    }
-}
-
-void QualityPredictionTest::throwsWhenTheModelCannotBeLoaded()
-{
-    QFETCH(QByteArray, content);
-    if (!content.isNull()) {
-        MeshFiles::write(directory() + QStringLiteral("mesher/mesh.onnx"), content);
-    }
-    installMesh(corner(1));
-    MeshQualityPredict predict;
-    QString message;
-    try {
-        predict.predict();
-    } catch (const Ort::Exception& error) {
-        message = QString::fromUtf8(error.what());
-        QVERIFY(error.GetOrtErrorCode() != ORT_OK);
-    }
-    QVERIFY(!message.isEmpty());
-    QVERIFY(MeshQualityPredict::s_session == nullptr);
-    QCOMPARE(predict.getOutput(), History(10, 0.0F));
-
-    // The next call works once the file is good.
-    installModel("volume");
-    predict.predict();
-    QCOMPARE(predict.getOutput(), endingWith({static_cast<float>(1.0 / 6)}));
-}
-
-void QualityPredictionTest::throwsWhenTheModelDoesNotFit_data()
-{
-    QTest::addColumn<QByteArray>("model");
-    for (const char* name : {"other-input-name", "other-output-name", "double-input", "rank-one-input", "five-inputs",
-                             "integer-output", "double-output", "empty-output"}) {
-        QTest::newRow(name) << QByteArray(name);
-    }
-}
-
-void QualityPredictionTest::throwsWhenTheModelDoesNotFit()
-{
-    QFETCH(QByteArray, model);
-    installModel(model.constData());
-    installMesh(corner(1));
-    MeshQualityPredict predict;
-    bool isCaught = false;
-    try {
-        predict.predict();
-    } catch (const Ort::Exception& error) {
-        isCaught = error.what()[0] != '\0';
-    }
-    QVERIFY(isCaught);
-    QVERIFY(MeshQualityPredict::s_session != nullptr);
-    QCOMPARE(predict.getOutput(), History(10, 0.0F));
-    // The features count as scored: they were stored before the model ran.
-    QCOMPARE(predict.m_lastInput[0], static_cast<float>(1.0 / 6));
-}
-
-void QualityPredictionTest::scoresAfterAnEarlierFailure()
-{
-    installMesh(corner(1));
-    MeshQualityPredict predict;
-    QVERIFY_EXCEPTION_THROWN(predict.predict(), Ort::Exception);
-    QVERIFY_EXCEPTION_THROWN(predict.predict(), std::exception);
-    installModel("above-one");
-    predict.predict();
-    QCOMPARE(predict.getOutput(), endingWith({1.0F}));
-    QCOMPARE(QByteArray(predict.m_inputName), QByteArray("onnx::Gemm_0"));
-    QCOMPARE(QByteArray(predict.m_outputName), QByteArray("19"));
-    QCOMPARE(predict.m_inputSize, 11);
 }
 
 void QualityPredictionTest::recordsClampedScores_data()
@@ -365,38 +192,6 @@ void QualityPredictionTest::drawsTheLineAtTheThreshold()
     QCOMPARE(predict.getOutput(), endingWith(History(static_cast<std::size_t>(scores), 1.0F)));
 }
 
-void QualityPredictionTest::namesTheModelFile()
-{
-    MeshQualityPredict predict;
-    QByteArray message;
-    try {
-        predict.predict();
-    } catch (const Ort::Exception& error) {
-        message = error.what();
-    }
-    // The slash is doubled.
-    const QByteArray path = QCoreApplication::applicationDirPath().toUtf8() + "//../mesher/mesh.onnx";
-    QVERIFY2(message.contains(path), message.constData());
-}
-
-void QualityPredictionTest::startsNoThreads()
-{
-    const auto threads = [] {
-        return QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
-    };
-    const QByteArray model = QFile::encodeName(fixture("volume"));
-    const int before = threads();
-    MeshQualityPredict predict;
-    predict.loadModel(model.constData(), "onnx::Gemm_0", "19");
-    const int withSession = threads();
-    const Ort::Env environment;
-    const Ort::Session session(environment, model.constData(), Ort::SessionOptions());
-    if (threads() == withSession) {
-        QSKIP("a session would start no threads here even if it might, as on one core");
-    }
-    QCOMPARE(withSession, before);
-}
-
 void QualityPredictionTest::scoresZerosWithoutMesh()
 {
     installModel("above-one");
@@ -405,67 +200,6 @@ void QualityPredictionTest::scoresZerosWithoutMesh()
     // Zeros have no direction, so they are never unchanged.
     predict.predict();
     QCOMPARE(predict.getOutput(), endingWith({1.0F, 1.0F}));
-}
-
-void QualityPredictionTest::keepsTheLoadedModel()
-{
-    installModel("above-one");
-    MeshQualityPredict predict;
-    predict.predict();
-    installModel("below-zero");
-    predict.predict();
-    QCOMPARE(predict.getOutput(), endingWith({1.0F, 1.0F}));
-}
-
-void QualityPredictionTest::usesTheGivenInputSize()
-{
-    MeshQualityPredict predict;
-    predict.loadModel(QFile::encodeName(fixture("five-inputs")).constData(), "onnx::Gemm_0", "19");
-    predict.setFigureParameter(5);
-    float values[] = {1, 2, 0.5F, 0.5F, 1};
-    QVERIFY(std::fabs(predict.inferFigure(values) - 0.5F) < 1e-6F);
-    for (const int size : {4, 0, -1, -2147483647}) {
-        predict.setFigureParameter(size);
-        QVERIFY_EXCEPTION_THROWN(predict.inferFigure(values), Ort::Exception);
-    }
-}
-
-void QualityPredictionTest::warnsOfMissingInputSize()
-{
-    MeshQualityPredict predict;
-    predict.loadModel(QFile::encodeName(fixture("above-one")).constData(), "onnx::Gemm_0", "19");
-    float values[11] = {};
-    StandardOutput output;
-    QVERIFY_EXCEPTION_THROWN(predict.inferFigure(values), Ort::Exception);
-    QCOMPARE(output.text(), QByteArray("未设置输入输出维度\n"));
-}
-
-void QualityPredictionTest::throwsWithoutModelOrInput()
-{
-    MeshQualityPredict predict;
-    predict.setFigureParameter(11);
-    float values[11] = {};
-    QVERIFY_EXCEPTION_THROWN(predict.inferFigure(values), Ort::Exception);
-    QVERIFY_EXCEPTION_THROWN(predict.loadModel(nullptr, nullptr, nullptr), Ort::Exception);
-    predict.loadModel(QFile::encodeName(fixture("above-one")).constData(), "onnx::Gemm_0", "19");
-    QVERIFY_EXCEPTION_THROWN(predict.inferFigure(nullptr), Ort::Exception);
-    // The names belong to the instance that loaded the model.
-    MeshQualityPredict other;
-    other.setFigureParameter(11);
-    QVERIFY_EXCEPTION_THROWN(other.inferFigure(values), Ort::Exception);
-    QCOMPARE(predict.inferFigure(values), 1.0F);
-}
-
-void QualityPredictionTest::replacesTheModelOnlyByAGoodOne()
-{
-    MeshQualityPredict predict;
-    predict.setFigureParameter(11);
-    float values[11] = {};
-    predict.loadModel(QFile::encodeName(fixture("above-one")).constData(), "onnx::Gemm_0", "19");
-    QVERIFY_EXCEPTION_THROWN(predict.loadModel("none.onnx", "onnx::Gemm_0", "19"), Ort::Exception);
-    QCOMPARE(predict.inferFigure(values), 1.0F);
-    predict.loadModel(QFile::encodeName(fixture("below-zero")).constData(), "onnx::Gemm_0", "19");
-    QCOMPARE(predict.inferFigure(values), 0.0F);
 }
 
 void QualityPredictionTest::measuresAngles()
