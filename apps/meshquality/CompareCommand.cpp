@@ -18,6 +18,7 @@ namespace MeshQuality {
 
 using DataManager::MeshQualityReport;
 using Metric = MeshQualityReport::Metric;
+using Summary = MeshQualityReport::Summary;
 
 namespace {
 
@@ -75,22 +76,24 @@ bool isRated(Metric metric)
 QString metricLines(Metric metric, const ScoredMesh& a, const ScoredMesh& b)
 {
     const std::size_t place = static_cast<std::size_t>(metric);
-    const MeshQualityReport::Summary before = a.report.summary(metric);
-    const MeshQualityReport::Summary after = b.report.summary(metric);
+    const Summary before = a.report.summary(metric);
+    const Summary after = b.report.summary(metric);
     const bool isWorseWhenLarger = MeshQualityReport::isWorseWhenLarger(metric);
     const auto rated = [&](const char* figure, double valueOfA, double valueOfB) {
         const QString verdict = isRated(metric) ? word(rating(valueOfA, valueOfB, isWorseWhenLarger)) : QString();
         return line(MeshQualityReport::metricName(metric) + QLatin1Char(' ') + QString::fromLatin1(figure), valueOfA,
                     valueOfB, verdict);
     };
-    const QString worstName = isWorseWhenLarger ? QStringLiteral("95 %") : QStringLiteral("5 %");
+    const auto worseSide = [&](const char* high, double Summary::*ofHigh, const char* low, double Summary::*ofLow) {
+        const auto figure = isWorseWhenLarger ? ofHigh : ofLow;
+        return rated(isWorseWhenLarger ? high : low, before.*figure, after.*figure);
+    };
     return rated("mean", static_cast<double>(a.report.features()[place]),
                  static_cast<double>(b.report.features()[place])) +
            rated("median", before.median, after.median) +
-           rated(qPrintable(worstName), isWorseWhenLarger ? before.percentile95 : before.percentile5,
-                 isWorseWhenLarger ? after.percentile95 : after.percentile5) +
-           rated(isWorseWhenLarger ? "maximum" : "minimum", isWorseWhenLarger ? before.maximum : before.minimum,
-                 isWorseWhenLarger ? after.maximum : after.minimum);
+           worseSide("95 %", &Summary::percentile95, "5 %", &Summary::percentile5) +
+           worseSide("99 %", &Summary::percentile99, "1 %", &Summary::percentile1) +
+           worseSide("maximum", &Summary::maximum, "minimum", &Summary::minimum);
 }
 
 QString comparison(const ScoredMesh& a, const ScoredMesh& b)

@@ -13,9 +13,15 @@ namespace MeshQuality {
 
 namespace {
 
-QString lastLine(const QByteArray& output)
+/// What gmsh says first of all errors, which is the cause of the others.
+QString reason(const QByteArray& output)
 {
     const QStringList lines = QString::fromUtf8(output).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString& line : lines) {
+        if (line.startsWith(QLatin1String("Error"))) {
+            return line.simplified();
+        }
+    }
     return lines.isEmpty() ? QStringLiteral("gmsh gave no reason") : lines.last().simplified();
 }
 
@@ -35,7 +41,7 @@ QString run(QProcess& process, const QString& program, const QStringList& argume
     if (process.exitStatus() != QProcess::NormalExit) {
         return QStringLiteral("gmsh crashed");
     }
-    return process.exitCode() == 0 ? QString() : lastLine(process.readAll());
+    return process.exitCode() == 0 ? QString() : reason(process.readAll());
 }
 
 } // namespace
@@ -71,6 +77,11 @@ QString GmshConversion::convert(const QString& path, const QString& directory, Q
                    QStringLiteral("1"), QStringLiteral("-setnumber"), QStringLiteral("Mesh.PreserveNumberingMsh2"),
                    QStringLiteral("1"), QStringLiteral("-o"), target, source},
                   m_limit);
+    // Gmsh knows the mesh by a name that means nothing to who reads this.
+    problem.replace(source, path);
+    if (problem.isEmpty() && !QFile::exists(target)) {
+        problem = QStringLiteral("it wrote no file");
+    }
     return problem.isEmpty() ? target : QString();
 }
 

@@ -8,6 +8,7 @@
 #include <meshquality/RegionName.h>
 #include <meshquality/ReportOptions.h>
 #include <meshquality/ScoredMesh.h>
+#include <meshquality/SkippedText.h>
 #include <meshquality/SvgHistogram.h>
 
 #include <algorithm>
@@ -51,20 +52,32 @@ QString scrolling(const Html::Table& table)
     return QStringLiteral("<div class=\"scroll\">") + table.text() + QStringLiteral("</div>\n");
 }
 
-QString noScoreText(const ScoredMesh& mesh)
+bool areMeansFinite(const ScoredMesh& mesh)
 {
     const auto& means = mesh.report.features();
-    const bool areFinite = std::all_of(means.begin(), means.end(), [](float mean) { return std::isfinite(mean); });
-    return !mesh.isScored ? QStringLiteral("There is no score, because the model cannot be used.")
-           : areFinite    ? QStringLiteral("There is no score, because the model gives no number.")
-                          : QStringLiteral("There is no score, because a mean is no finite number.");
+    return std::all_of(means.begin(), means.end(), [](float mean) { return std::isfinite(mean); });
+}
+
+QString noScoreText(const ScoredMesh& mesh)
+{
+    return !mesh.isScored         ? QStringLiteral("There is no score, because the model cannot be used.")
+           : areMeansFinite(mesh) ? QStringLiteral("There is no score, because the model gives no number.")
+                                  : QStringLiteral("There is no score, because a mean is no finite number.");
+}
+
+QString warning(const QString& text)
+{
+    return QStringLiteral("<p class=\"warning\">%1</p>\n").arg(Html::escaped(text));
 }
 
 QString scoreText(const ScoredMesh& mesh)
 {
     const double score = static_cast<double>(mesh.score);
     return QStringLiteral("<p><span class=\"score\">%1</span> score (0 worst, 1 best)</p>\n").arg(Html::number(score)) +
-           (std::isnan(score) ? QStringLiteral("<p class=\"warning\">%1</p>\n").arg(noScoreText(mesh)) : QString());
+           (std::isnan(score)      ? warning(noScoreText(mesh))
+            : areMeansFinite(mesh) ? QString()
+                                   : warning(QStringLiteral("The score means nothing, because a mean is no finite "
+                                                            "number.")));
 }
 
 QString modelText(const ScoredMesh& mesh)
@@ -74,7 +87,7 @@ QString modelText(const ScoredMesh& mesh)
     }
     QString text = Html::element("p", QStringLiteral("Model ") + modelSentence(mesh)) + QLatin1Char('\n');
     for (const DataManager::QualityModelCard::Excess& excess : excesses(mesh)) {
-        text += QStringLiteral("<p class=\"warning\">%1</p>\n").arg(Html::escaped(excessText(excess)));
+        text += warning(excessText(excess));
     }
     return text;
 }
@@ -90,24 +103,28 @@ QString conversion(const ScoredMesh& mesh)
 
 QString counts(const MeshQualityReport& report)
 {
-    QString text = Html::element("p", QStringLiteral("%1 nodes, %2 tetrahedra, %3 inverted, %4 flat")
-                                          .arg(report.nodeCount())
-                                          .arg(report.elementCount())
-                                          .arg(report.invertedCount())
-                                          .arg(report.flatCount()));
-    if (!report.skippedLines().empty()) {
-        text += QStringLiteral("<p class=\"warning\">%1 lines skipped, the first is line %2</p>")
-                    .arg(report.skippedLineCount())
-                    .arg(report.skippedLines().front().line);
-    }
-    return text + QLatin1Char('\n');
+    const QString twice = QStringLiteral(", %1 that name a node twice").arg(report.duplicateNodeCount());
+    const QString text = QStringLiteral("%1 nodes, %2 tetrahedra, %3 inverted, %4 flat")
+                             .arg(report.nodeCount())
+                             .arg(report.elementCount())
+                             .arg(report.invertedCount())
+                             .arg(report.flatCount());
+    return Html::element("p", report.duplicateNodeCount() > 0 ? text + twice : text) + QLatin1Char('\n');
+}
+
+QString skippedLines(const MeshQualityReport& report)
+{
+    const QStringList places = skippedPlaces(report);
+    return places.isEmpty() ? QString()
+                            : warning(QStringLiteral("%1 lines skipped: ").arg(report.skippedLineCount()) +
+                                      places.join(QStringLiteral("; ")));
 }
 
 QString warnings(const ScoredMesh& mesh)
 {
     QString text;
-    for (const QString& warning : mesh.report.warnings(mesh.file)) {
-        text += Html::element("p", QStringLiteral("Warning: ") + warning) + QLatin1Char('\n');
+    for (const QString& doubt : mesh.report.warnings(mesh.file)) {
+        text += warning(QStringLiteral("Warning: ") + doubt);
     }
     return text;
 }
@@ -210,9 +227,9 @@ void HtmlReport::write(const ScoredMesh& mesh)
     if (m_file.isWritable()) {
         const QString text = QStringLiteral("<section>\n") + Html::element("h2", mesh.file) + QLatin1Char('\n') +
                              scoreText(mesh) + modelText(mesh) + conversion(mesh) + warnings(mesh) +
-                             counts(mesh.report) + features(mesh.report) + histograms(mesh.report) +
-                             worst(mesh.report, m_options) + regions(mesh.report, m_options.worstBy) +
-                             QStringLiteral("</section>\n");
+                             counts(mesh.report) + skippedLines(mesh.report) + features(mesh.report) +
+                             histograms(mesh.report) + worst(mesh.report, m_options) +
+                             regions(mesh.report, m_options.worstBy) + QStringLiteral("</section>\n");
         m_file.write(text.toUtf8());
     }
 }

@@ -46,6 +46,23 @@ void writeDoubts(const ScoredMesh& mesh, JsonWriter& json)
     json.endArray();
 }
 
+void writeSkippedLines(const MeshQualityReport& report, JsonWriter& json)
+{
+    constexpr std::size_t listed = 10;
+    json.key(QStringLiteral("firstSkippedLines"));
+    json.beginArray();
+    for (std::size_t i = 0; i < report.skippedLines().size() && i < listed; ++i) {
+        const MeshQualityReport::SkippedLine& line = report.skippedLines()[i];
+        json.beginObject();
+        json.key(QStringLiteral("line"));
+        json.value(line.line);
+        json.key(QStringLiteral("reason"));
+        json.value(MeshQualityReport::skipReasonText(line.reason));
+        json.endObject();
+    }
+    json.endArray();
+}
+
 void writeModel(const ScoredMesh& mesh, JsonWriter& json)
 {
     json.key(QStringLiteral("model"));
@@ -159,6 +176,8 @@ void writeRegions(const MeshQualityReport& report, JsonWriter& json)
         json.key(QStringLiteral("flat"));
         json.value(qint64(region.flatCount));
         writeMetrics(region.summaries, json);
+        json.key(QStringLiteral("duplicateNodes"));
+        json.value(qint64(region.duplicateNodeCount));
         json.endObject();
     }
     json.endArray();
@@ -206,10 +225,6 @@ void writeJson(const ScoredMesh& mesh, const ReportOptions& options, JsonWriter&
     json.beginObject();
     json.key(QStringLiteral("file"));
     json.value(mesh.file);
-    if (!mesh.convertedFrom.isEmpty()) {
-        json.key(QStringLiteral("convertedFrom"));
-        json.value(mesh.convertedFrom);
-    }
     writeCounts(mesh.report, json);
     json.key(QStringLiteral("features"));
     writeFeatures(mesh.report, json);
@@ -221,6 +236,11 @@ void writeJson(const ScoredMesh& mesh, const ReportOptions& options, JsonWriter&
     writeDoubts(mesh, json);
     writeModel(mesh, json);
     writeExcesses(mesh, json);
+    writeSkippedLines(mesh.report, json);
+    if (!mesh.convertedFrom.isEmpty()) {
+        json.key(QStringLiteral("convertedFrom"));
+        json.value(mesh.convertedFrom);
+    }
     json.endObject();
 }
 

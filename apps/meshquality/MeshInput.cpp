@@ -7,6 +7,7 @@
 #include <meshquality/GmshConversion.h>
 #include <meshquality/ProgressLine.h>
 #include <meshquality/ScoredMesh.h>
+#include <meshquality/SkippedText.h>
 #include <meshquality/VtuConversion.h>
 
 #include <QFileInfo>
@@ -76,6 +77,19 @@ ExitCode measureConverted(ScoredMesh& mesh, QString& problem)
     return UnreadableInput;
 }
 
+/// Says on standard error why there are no measures, or which lines are not in them.
+ExitCode told(const ScoredMesh& mesh, ExitCode exitCode, const QString& problem)
+{
+    if (exitCode != Success) {
+        Console::printError(mesh.file, problem);
+    } else if (mesh.report.skippedLineCount() > 0) {
+        Console::printError(mesh.file,
+                            QStringLiteral("warning: %1 lines skipped: ").arg(mesh.report.skippedLineCount()) +
+                                skippedPlaces(mesh.report).join(QStringLiteral("; ")));
+    }
+    return exitCode;
+}
+
 } // namespace
 
 ExitCode measureMesh(ScoredMesh& mesh, QString& problem)
@@ -92,10 +106,13 @@ ExitCode measureMesh(ScoredMesh& mesh)
 {
     QString problem;
     const ExitCode exitCode = measureMesh(mesh, problem);
-    if (exitCode != Success) {
-        Console::printError(mesh.file, problem);
-    }
-    return exitCode;
+    return told(mesh, exitCode, problem);
+}
+
+ExitCode measureAsItIs(ScoredMesh& mesh)
+{
+    const bool isMeasured = measure(mesh, mesh.file);
+    return told(mesh, isMeasured ? Success : UnreadableInput, mesh.report.problemText());
 }
 
 } // namespace MeshQuality

@@ -17,7 +17,10 @@ struct ScoredMesh;
 /// measures.
 ExitCode measureMesh(ScoredMesh& mesh, QString& problem);
 
-/// The same, with the reason on standard error.
+/// The same, with the reason on standard error, and the first skipped lines, too.
 ExitCode measureMesh(ScoredMesh& mesh);
+
+/// As above, but a file in another format is no input.
+ExitCode measureAsItIs(ScoredMesh& mesh);
 
 } // namespace MeshQuality

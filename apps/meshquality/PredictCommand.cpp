@@ -4,14 +4,16 @@
 #include <meshquality/PredictCommand.h>
 
 #include <console/Console.h>
+#include <meshquality/MeshInput.h>
 #include <meshquality/ModelScore.h>
 #include <meshquality/NumberText.h>
+#include <meshquality/ScoredMesh.h>
 
 #include <datamanager/meshquality/MeshQualityPredict.h>
 
 #include <QCoreApplication>
-#include <QFileInfo>
 
+#include <cmath>
 #include <exception>
 
 namespace MeshQuality {
@@ -37,11 +39,10 @@ ExitCode runPredict(const QStringList& arguments)
         Console::printUsageError(QStringLiteral("predict takes no arguments"));
         return UsageError;
     }
-    // Without a mesh the predictor scores zeros, which means nothing to anyone.
-    const QString mesh = QCoreApplication::applicationDirPath() + QStringLiteral("/../temp/mesh.msh");
-    if (!QFileInfo(mesh).isFile()) {
-        Console::printError(mesh, QFileInfo::exists(mesh) ? QStringLiteral("not a regular file")
-                                                          : QStringLiteral("no such file"));
+    // The predictor itself tells nothing: without a mesh it scores zeros, and of another format it makes something.
+    ScoredMesh mesh;
+    mesh.file = QCoreApplication::applicationDirPath() + QStringLiteral("/../temp/mesh.msh");
+    if (measureAsItIs(mesh) != Success) {
         return UnreadableInput;
     }
     try {
@@ -50,7 +51,13 @@ ExitCode runPredict(const QStringList& arguments)
         Console::printError(ModelScore::defaultModel(), QString::fromUtf8(error.what()));
         return ModelTrouble;
     }
-    Console::print(historyText(MeshQualityPredict::getinstance()->getOutput()));
+    const std::vector<float> history = MeshQualityPredict::getinstance()->getOutput();
+    if (std::isnan(history.back())) {
+        Console::printError(mesh.file, QStringLiteral("warning: the score is no number; why is told by: meshquality "
+                                                      "report '%1'")
+                                           .arg(mesh.file));
+    }
+    Console::print(historyText(history));
     return Success;
 }
 

@@ -7,12 +7,16 @@
 #include <meshquality/RegionName.h>
 #include <meshquality/ReportOptions.h>
 
+#include <algorithm>
+
 namespace MeshQuality {
 
 using DataManager::MeshQualityReport;
 using Metric = MeshQualityReport::Metric;
 
 namespace {
+
+constexpr int bins = 20;
 
 QString column(double value)
 {
@@ -37,26 +41,29 @@ QString elementText(const MeshQualityReport& report, int element)
     return text + QStringLiteral("      ") + values.join(QStringLiteral(", ")) + QLatin1Char('\n');
 }
 
-QString worst(const MeshQualityReport& report, const ReportOptions& options)
+/// Before every line below a region's.
+QString indented(QString text)
+{
+    return text.isEmpty()
+               ? text
+               : text.replace(QLatin1Char('\n'), QLatin1String("\n  ")).chopped(2).prepend(QLatin1String("  "));
+}
+
+QString worst(const MeshQualityReport& report, const ReportOptions& options, const std::vector<int>& elements)
 {
     QString text = QStringLiteral("  worst by %1:\n").arg(MeshQualityReport::metricName(options.worstBy));
-    for (const int element : report.worst(options.worstBy, options.worstCount)) {
+    for (const int element : elements) {
         text += elementText(report, element);
     }
     return text;
 }
 
-QString histogram(const MeshQualityReport& report, Metric metric)
+QString bars(const MeshQualityReport::Histogram& histogram)
 {
-    constexpr int bins = 20;
     constexpr int widestBar = 50;
-    const MeshQualityReport::Histogram histogram = report.histogram(metric, bins);
-    QString text = QStringLiteral("  %1:\n").arg(MeshQualityReport::metricName(metric));
-    int most = 1;
-    for (const int count : histogram.counts) {
-        most = qMax(most, count);
-    }
-    const double width = (histogram.upper - histogram.lower) / bins;
+    const int most = *std::max_element(histogram.counts.begin(), histogram.counts.end());
+    const double width = histogram.upper / bins - histogram.lower / bins;
+    QString text;
     for (std::size_t bin = 0; bin < histogram.counts.size(); ++bin) {
         const int count = histogram.counts[bin];
         const int bar = static_cast<int>(qint64(count) * widestBar / most);
@@ -66,20 +73,42 @@ QString histogram(const MeshQualityReport& report, Metric metric)
     return text;
 }
 
-QString regions(const MeshQualityReport& report)
+QString histogram(Metric metric, const MeshQualityReport::Histogram& histogram)
+{
+    return QStringLiteral("  %1:\n").arg(MeshQualityReport::metricName(metric)) +
+           (histogram.counts.empty() ? QStringLiteral("    no finite value\n") : bars(histogram));
+}
+
+QString regionTable(const MeshQualityReport::Region& region)
+{
+    QString text = QStringLiteral("  region %1: %2 tetrahedra (%3 inverted, %4 flat)\n")
+                       .arg(regionName(region.name, region.physicalTag), QString::number(region.elementCount),
+                            QString::number(region.invertedCount), QString::number(region.flatCount));
+    if (region.duplicateNodeCount > 0) {
+        text += QStringLiteral("    %1 tetrahedra name a node twice\n").arg(region.duplicateNodeCount);
+    }
+    text += QStringLiteral("                             mean      minimum          1 %          5 %       median"
+                           "         95 %      maximum\n");
+    for (std::size_t i = 0; i < region.summaries.size(); ++i) {
+        const MeshQualityReport::Summary& s = region.summaries[i];
+        text += QStringLiteral("    ") + MeshQualityReport::metricName(static_cast<Metric>(i)).leftJustified(19) +
+                column(s.mean) + column(s.minimum) + column(s.percentile1) + column(s.percentile5) + column(s.median) +
+                column(s.percentile95) + column(s.maximum) + QLatin1Char('\n');
+    }
+    return text;
+}
+
+/// What is told of the whole mesh, told of every region.
+QString regions(const MeshQualityReport& report, const ReportOptions& options)
 {
     QString text;
     for (const MeshQualityReport::Region& region : report.regions()) {
-        text += QStringLiteral("  region %1: %2 tetrahedra (%3 inverted, %4 flat)\n")
-                    .arg(regionName(region.name, region.physicalTag), QString::number(region.elementCount),
-                         QString::number(region.invertedCount), QString::number(region.flatCount));
-        text += QStringLiteral("                             mean      minimum          1 %          5 %       median"
-                               "         95 %      maximum\n");
-        for (std::size_t i = 0; i < region.summaries.size(); ++i) {
-            const MeshQualityReport::Summary& s = region.summaries[i];
-            text += QStringLiteral("    ") + MeshQualityReport::metricName(static_cast<Metric>(i)).leftJustified(19) +
-                    column(s.mean) + column(s.minimum) + column(s.percentile1) + column(s.percentile5) +
-                    column(s.median) + column(s.percentile95) + column(s.maximum) + QLatin1Char('\n');
+        text += regionTable(region);
+        if (options.worstCount > 0) {
+            text += indented(worst(report, options, report.worst(options.worstBy, options.worstCount, region)));
+        }
+        if (options.histogram) {
+            text += indented(histogram(*options.histogram, report.histogram(*options.histogram, bins, region)));
         }
     }
     return text;
@@ -89,9 +118,14 @@ QString regions(const MeshQualityReport& report)
 
 QString textDetails(const MeshQualityReport& report, const ReportOptions& options)
 {
-    return (options.worstCount > 0 ? worst(report, options) : QString()) +
-           (options.histogram ? histogram(report, *options.histogram) : QString()) +
-           (options.byRegion ? regions(report) : QString());
+    QString text;
+    if (options.worstCount > 0) {
+        text += worst(report, options, report.worst(options.worstBy, options.worstCount));
+    }
+    if (options.histogram) {
+        text += histogram(*options.histogram, report.histogram(*options.histogram, bins));
+    }
+    return options.byRegion ? text + regions(report, options) : text;
 }
 
 } // namespace MeshQuality

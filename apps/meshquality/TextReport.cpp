@@ -6,6 +6,7 @@
 #include <meshquality/ModelText.h>
 #include <meshquality/NumberText.h>
 #include <meshquality/ScoredMesh.h>
+#include <meshquality/SkippedText.h>
 
 #include <QStringList>
 
@@ -46,20 +47,10 @@ QString counts(const MeshQualityReport& report)
 
 QString skippedLines(const MeshQualityReport& report)
 {
-    const qint64 count = report.skippedLineCount();
-    if (count == 0) {
-        return QString();
-    }
-    QString text = QStringLiteral("  %1 lines skipped:\n").arg(count);
-    for (std::size_t i = 0; i < report.skippedLines().size() && i < placesShown; ++i) {
-        const MeshQualityReport::SkippedLine& line = report.skippedLines()[i];
-        text += QStringLiteral("    line %1: %2\n")
-                    .arg(QString::number(line.line), MeshQualityReport::skipReasonText(line.reason));
-    }
-    if (count > placesShown) {
-        text += QStringLiteral("    and %1 more\n").arg(count - placesShown);
-    }
-    return text;
+    const QStringList places = skippedPlaces(report);
+    return places.isEmpty() ? QString()
+                            : QStringLiteral("  %1 lines skipped:\n    ").arg(report.skippedLineCount()) +
+                                  places.join(QStringLiteral("\n    ")) + QLatin1Char('\n');
 }
 
 QString row(const QString& name, const QStringList& columns)

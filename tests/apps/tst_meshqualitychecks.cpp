@@ -249,6 +249,9 @@ void MeshQualityChecksTest::compares()
     QCOMPARE(field(QStringLiteral("tetrahedra"), 2), QStringLiteral("6776"));
     QCOMPARE(field(QStringLiteral("Shape 5 %"), 1), QString::number(first.summary(Metric::Shape).percentile5, 'g', 6));
     QCOMPARE(field(QStringLiteral("Shape 5 %"), 2), QString::number(second.summary(Metric::Shape).percentile5, 'g', 6));
+    QCOMPARE(field(QStringLiteral("Shape 1 %"), 2), QString::number(second.summary(Metric::Shape).percentile1, 'g', 6));
+    QCOMPARE(field(QStringLiteral("EdgeRatio 99 %"), 1),
+             QString::number(first.summary(Metric::EdgeRatio).percentile99, 'g', 6));
     QCOMPARE(field(QStringLiteral("EdgeRatio 95 %"), 2),
              QString::number(second.summary(Metric::EdgeRatio).percentile95, 'g', 6));
     for (const char* name : {"Shape mean", "Shape minimum", "EdgeRatio mean", "EdgeRatio maximum", "score"}) {

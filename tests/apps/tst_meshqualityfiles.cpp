@@ -10,10 +10,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QXmlStreamReader>
 #include <QtTest>
 
 #include <vtkCellData.h>
@@ -38,9 +36,6 @@ private Q_SLOTS:
     void writesGridForVtk_data();
     void writesGridForVtk();
     void keepsEveryBitInTheGrid();
-    void writesWebPage();
-    void escapesInWebPage();
-    void writesWebPageWithoutNumbers();
     void tellsWhatCannotBeWritten_data();
     void tellsWhatCannotBeWritten();
     void keepsWhatWasThereWhenTheSpaceEnds_data();
@@ -54,9 +49,6 @@ private:
         MeshFiles::write(path(name), content);
         return path(name);
     }
-    /// The report's page on a mesh, empty when it is no well-formed XML.
-    QString page(const QStringList& options, ProgramRun& run) const;
-
     QTemporaryDir m_directory;
 };
 
@@ -177,96 +169,6 @@ void MeshQualityFilesTest::keepsEveryBitInTheGrid()
     }
     QVERIFY(std::isnan(grid->GetCellData()->GetArray("Shape")->GetTuple1(1)));
     QCOMPARE(int(grid->GetCellData()->GetArray("region")->GetTuple1(1)), 4);
-}
-
-QString MeshQualityFilesTest::page(const QStringList& options, ProgramRun& run) const
-{
-    run = report(QStringList{QStringLiteral("--html"), path("page.html")} + options);
-    QFile written(path("page.html"));
-    if (!written.open(QIODevice::ReadOnly)) {
-        return QString();
-    }
-    const QString text = QString::fromUtf8(written.readAll());
-    // All but the two tags that never end are written as XML has it.
-    QString xml = text;
-    xml.remove(QStringLiteral("<!DOCTYPE html>")).remove(QRegularExpression(QStringLiteral("<meta [^>]*>")));
-    QXmlStreamReader reader(xml);
-    while (!reader.atEnd()) {
-        reader.readNext();
-    }
-    return reader.hasError() ? QString() : text;
-}
-
-void MeshQualityFilesTest::writesWebPage()
-{
-    ProgramRun run;
-    const QString text = page({QStringLiteral("--worst"), QStringLiteral("4"), QStringLiteral("--by"),
-                               QStringLiteral("EdgeRatio"), slivers, housing},
-                              run);
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.errors, QByteArray());
-    QCOMPARE(text.count(QStringLiteral("<section>")), 2);
-    QCOMPARE(text.count(QStringLiteral("<svg ")), 22);
-    for (const char* reference : {"src=", "href=", "url(", "http", "@import", "<script"}) {
-        QVERIFY2(!text.contains(QLatin1String(reference)), reference);
-    }
-    const QRegularExpressionMatch score =
-        QRegularExpression(QStringLiteral("  score (\\S+) \\(")).match(QString::fromUtf8(run.output));
-    QVERIFY(text.contains(QStringLiteral("<span class=\"score\">%1</span>").arg(score.captured(1))));
-
-    MeshQualityReport expected;
-    QVERIFY(expected.measure(slivers));
-    int from = text.indexOf(QStringLiteral("Worst elements by EdgeRatio"));
-    QVERIFY(from > 0);
-    for (const int element : expected.worst(Metric::EdgeRatio, 4)) {
-        from = text.indexOf(QStringLiteral("<tr><td>%1</td><td>%2</td><td>1 &quot;solid&quot;</td>")
-                                .arg(expected.tag(element))
-                                .arg(expected.line(element)),
-                            from);
-        QVERIFY(from > 0);
-    }
-    const QString cell = QStringLiteral("<td>%1</td>");
-    QVERIFY(text.contains(cell.arg(QString::number(expected.summary(Metric::Shape).percentile5, 'g', 6))));
-    QVERIFY(expected.measure(housing));
-    for (const MeshQualityReport::Region& region : expected.regions()) {
-        QVERIFY(text.contains(QStringLiteral("<tr><td>%1 &quot;%2&quot;</td><td>%3</td>")
-                                  .arg(region.physicalTag)
-                                  .arg(region.name)
-                                  .arg(region.elementCount)));
-    }
-    // The bars of every picture hold every element once.
-    QRegularExpressionMatchIterator bars =
-        QRegularExpression(QStringLiteral("<title>\\S+ to \\S+: (\\d+)</title>")).globalMatch(text);
-    qint64 total = 0;
-    while (bars.hasNext()) {
-        total += bars.next().captured(1).toLongLong();
-    }
-    QCOMPARE(total, 11 * (qint64(3156) + expected.elementCount()));
-}
-
-void MeshQualityFilesTest::escapesInWebPage()
-{
-    QByteArray content = MeshFiles::oneTetrahedron(MeshFiles::regular());
-    content.replace("1 4 2 0 1", "1 4 2 7 1")
-        .replace("$Nodes", "$PhysicalNames\n1\n3 7 \"<b onclick='x'>&\"\n$EndPhysicalNames\n$Nodes");
-    ProgramRun run;
-    const QString text = page({file("a <i>&'\".msh", content)}, run);
-    QCOMPARE(run.exitCode, 0);
-    QVERIFY(text.contains(QStringLiteral("a &lt;i&gt;&amp;&#39;&quot;.msh")));
-    QVERIFY(text.contains(QStringLiteral("7 &quot;&lt;b onclick=&#39;x&#39;&gt;&amp;&quot;")));
-    QVERIFY(!text.contains(QStringLiteral("<b") + QLatin1Char(' ')));
-    QVERIFY(!text.contains(QStringLiteral("<i>")));
-}
-
-void MeshQualityFilesTest::writesWebPageWithoutNumbers()
-{
-    const QString mesh = file("turned.msh", MeshFiles::oneTetrahedron(MeshFiles::inverted(MeshFiles::rightCorner())));
-    ProgramRun run;
-    const QString text = page({mesh}, run);
-    QCOMPARE(run.exitCode, 0);
-    QVERIFY(text.contains(QStringLiteral("There is no score")));
-    QVERIFY(text.contains(QStringLiteral("no finite value")));
-    QVERIFY(text.contains(QStringLiteral("1 inverted")));
 }
 
 void MeshQualityFilesTest::tellsWhatCannotBeWritten_data()
