@@ -503,5 +503,315 @@ of several the highest.
         <source>--jsonl and --json - both need standard output</source>
         <translation>--jsonl and --json - both need standard output</translation>
     </message>
+    <message>
+        <source>same</source>
+        <translation>same</translation>
+    </message>
+    <message>
+        <source>improved</source>
+        <translation>improved</translation>
+    </message>
+    <message>
+        <source>worsened</source>
+        <translation>worsened</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unknown</translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation>mean</translation>
+    </message>
+    <message>
+        <source>median</source>
+        <translation>median</translation>
+    </message>
+    <message>
+        <source>maximum</source>
+        <translation>maximum</translation>
+    </message>
+    <message>
+        <source>minimum</source>
+        <translation>minimum</translation>
+    </message>
+    <message>
+        <source>nodes</source>
+        <translation>nodes</translation>
+    </message>
+    <message>
+        <source>tetrahedra</source>
+        <translation>tetrahedra</translation>
+    </message>
+    <message>
+        <source>inverted</source>
+        <translation>inverted</translation>
+    </message>
+    <message>
+        <source>flat</source>
+        <translation>flat</translation>
+    </message>
+    <message>
+        <source>score</source>
+        <translation>score</translation>
+    </message>
+    <message>
+        <source>  model </source>
+        <translation>  model </translation>
+    </message>
+    <message>
+        <source>  warning: %1: %2
+</source>
+        <translation>  warning: %1: %2
+</translation>
+    </message>
+    <message>
+        <source>compare needs two meshes</source>
+        <translation>compare needs two meshes</translation>
+    </message>
+    <message>
+        <source>Mesh quality</source>
+        <translation>Mesh quality</translation>
+    </message>
+    <message>
+        <source>There is no score, because the model cannot be used.</source>
+        <translation>There is no score, because the model cannot be used.</translation>
+    </message>
+    <message>
+        <source>There is no score, because the model gives no number.</source>
+        <translation>There is no score, because the model gives no number.</translation>
+    </message>
+    <message>
+        <source>There is no score, because a mean is no finite number.</source>
+        <translation>There is no score, because a mean is no finite number.</translation>
+    </message>
+    <message>
+        <source>score (0 worst, 1 best)</source>
+        <translation>score (0 worst, 1 best)</translation>
+    </message>
+    <message>
+        <source>The score means nothing, because a mean is no finite number.</source>
+        <translation>The score means nothing, because a mean is no finite number.</translation>
+    </message>
+    <message>
+        <source>Model </source>
+        <translation>Model </translation>
+    </message>
+    <message>
+        <source>Converted from %1; line numbers are those of the conversion.</source>
+        <translation>Converted from %1; line numbers are those of the conversion.</translation>
+    </message>
+    <message>
+        <source>, %1 that name a node twice</source>
+        <translation>, %1 that name a node twice</translation>
+    </message>
+    <message>
+        <source>%1 nodes, %2 tetrahedra, %3 inverted, %4 flat</source>
+        <translation>%1 nodes, %2 tetrahedra, %3 inverted, %4 flat</translation>
+    </message>
+    <message>
+        <source>%1 lines skipped: </source>
+        <translation>%1 lines skipped: </translation>
+    </message>
+    <message>
+        <source>Warning: </source>
+        <translation>Warning: </translation>
+    </message>
+    <message>
+        <source>metric</source>
+        <translation>metric</translation>
+    </message>
+    <message>
+        <source>feature (mean)</source>
+        <translation>feature (mean)</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>Features</translation>
+    </message>
+    <message>
+        <source>Histograms</source>
+        <translation>Histograms</translation>
+    </message>
+    <message>
+        <source>element</source>
+        <translation>element</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>line</translation>
+    </message>
+    <message>
+        <source>region</source>
+        <translation>region</translation>
+    </message>
+    <message>
+        <source>Worst elements by %1</source>
+        <translation>Worst elements by %1</translation>
+    </message>
+    <message>
+        <source>Regions, %1</source>
+        <translation>Regions, %1</translation>
+    </message>
+    <message>
+        <source>warning: </source>
+        <translation>warning: </translation>
+    </message>
+    <message>
+        <source>warning: %1 lines skipped: </source>
+        <translation>warning: %1 lines skipped: </translation>
+    </message>
+    <message>
+        <source>predict takes no arguments</source>
+        <translation>predict takes no arguments</translation>
+    </message>
+    <message>
+        <source>warning: the score is no number; why is told by: meshquality report &apos;%1&apos;</source>
+        <translation>warning: the score is no number; why is told by: meshquality report &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>line %1: %2</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>and %1 more</translation>
+    </message>
+    <message>
+        <source>%1 to %2: %3</source>
+        <translation>%1 to %2: %3</translation>
+    </message>
+    <message>
+        <source>no finite value</source>
+        <translation>no finite value</translation>
+    </message>
+    <message>
+        <source>    element %1 (line %2), region %3, at %4 %5 %6
+</source>
+        <translation>    element %1 (line %2), region %3, at %4 %5 %6
+</translation>
+    </message>
+    <message>
+        <source>  worst by %1:
+</source>
+        <translation>  worst by %1:
+</translation>
+    </message>
+    <message>
+        <source>    no finite value
+</source>
+        <translation>    no finite value
+</translation>
+    </message>
+    <message>
+        <source>  region %1: %2 tetrahedra (%3 inverted, %4 flat)
+</source>
+        <translation>  region %1: %2 tetrahedra (%3 inverted, %4 flat)
+</translation>
+    </message>
+    <message>
+        <source>    %1 tetrahedra name a node twice
+</source>
+        <translation>    %1 tetrahedra name a node twice
+</translation>
+    </message>
+    <message>
+        <source>  converted from %1; line numbers are those of the conversion
+</source>
+        <translation>  converted from %1; line numbers are those of the conversion
+</translation>
+    </message>
+    <message>
+        <source>  %1 nodes, %2 tetrahedra (%3 inverted, %4 flat)
+</source>
+        <translation>  %1 nodes, %2 tetrahedra (%3 inverted, %4 flat)
+</translation>
+    </message>
+    <message>
+        <source>  %1 tetrahedra name a node twice
+</source>
+        <translation>  %1 tetrahedra name a node twice
+</translation>
+    </message>
+    <message>
+        <source>  %1 lines skipped:
+    </source>
+        <translation>  %1 lines skipped:
+    </translation>
+    </message>
+    <message>
+        <source>out of the range of numbers</source>
+        <translation>out of the range of numbers</translation>
+    </message>
+    <message>
+        <source>    element %1 (line %2): %3
+</source>
+        <translation>    element %1 (line %2): %3
+</translation>
+    </message>
+    <message>
+        <source>    and %1 more
+</source>
+        <translation>    and %1 more
+</translation>
+    </message>
+    <message>
+        <source>  no finite mean of %1: %2
+</source>
+        <translation>  no finite mean of %1: %2
+</translation>
+    </message>
+    <message>
+        <source>every element has a value and so has the mean, but it is too large for the single precision in which the model takes it</source>
+        <translation>every element has a value and so has the mean, but it is too large for the single precision in which the model takes it</translation>
+    </message>
+    <message>
+        <source>every element has a value, but their sum is out of range</source>
+        <translation>every element has a value, but their sum is out of range</translation>
+    </message>
+    <message>
+        <source>these elements have no finite value</source>
+        <translation>these elements have no finite value</translation>
+    </message>
+    <message>
+        <source>  no score: the model cannot be used
+</source>
+        <translation>  no score: the model cannot be used
+</translation>
+    </message>
+    <message>
+        <source>  score </source>
+        <translation>  score </translation>
+    </message>
+    <message>
+        <source> means nothing</source>
+        <translation> means nothing</translation>
+    </message>
+    <message>
+        <source>: there is none</source>
+        <translation>: there is none</translation>
+    </message>
+    <message>
+        <source>, because a mean is no finite number:
+</source>
+        <translation>, because a mean is no finite number:
+</translation>
+    </message>
+    <message>
+        <source> (0 worst, 1 best)
+</source>
+        <translation> (0 worst, 1 best)
+</translation>
+    </message>
+    <message>
+        <source>: there is none, because the model gives no number for these means
+</source>
+        <translation>: there is none, because the model gives no number for these means
+</translation>
+    </message>
+    <message>
+        <source>  warning: </source>
+        <translation>  warning: </translation>
+    </message>
 </context>
 </TS>

@@ -501,5 +501,315 @@ of several the highest.
         <source>--jsonl and --json - both need standard output</source>
         <translation>--jsonl 与 --json - 都要占用标准输出</translation>
     </message>
+    <message>
+        <source>same</source>
+        <translation>相同</translation>
+    </message>
+    <message>
+        <source>improved</source>
+        <translation>改善</translation>
+    </message>
+    <message>
+        <source>worsened</source>
+        <translation>变差</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation>均值</translation>
+    </message>
+    <message>
+        <source>median</source>
+        <translation>中位数</translation>
+    </message>
+    <message>
+        <source>maximum</source>
+        <translation>最大值</translation>
+    </message>
+    <message>
+        <source>minimum</source>
+        <translation>最小值</translation>
+    </message>
+    <message>
+        <source>nodes</source>
+        <translation>节点</translation>
+    </message>
+    <message>
+        <source>tetrahedra</source>
+        <translation>四面体</translation>
+    </message>
+    <message>
+        <source>inverted</source>
+        <translation>翻转</translation>
+    </message>
+    <message>
+        <source>flat</source>
+        <translation>扁平</translation>
+    </message>
+    <message>
+        <source>score</source>
+        <translation>评分</translation>
+    </message>
+    <message>
+        <source>  model </source>
+        <translation>  模型 </translation>
+    </message>
+    <message>
+        <source>  warning: %1: %2
+</source>
+        <translation>  警告：%1：%2
+</translation>
+    </message>
+    <message>
+        <source>compare needs two meshes</source>
+        <translation>compare 需要两个网格</translation>
+    </message>
+    <message>
+        <source>Mesh quality</source>
+        <translation>网格质量</translation>
+    </message>
+    <message>
+        <source>There is no score, because the model cannot be used.</source>
+        <translation>没有评分，因为模型无法使用。</translation>
+    </message>
+    <message>
+        <source>There is no score, because the model gives no number.</source>
+        <translation>没有评分，因为模型未给出数值。</translation>
+    </message>
+    <message>
+        <source>There is no score, because a mean is no finite number.</source>
+        <translation>没有评分，因为有均值不是有限数。</translation>
+    </message>
+    <message>
+        <source>score (0 worst, 1 best)</source>
+        <translation>评分（0 最差，1 最好）</translation>
+    </message>
+    <message>
+        <source>The score means nothing, because a mean is no finite number.</source>
+        <translation>评分没有意义，因为有均值不是有限数。</translation>
+    </message>
+    <message>
+        <source>Model </source>
+        <translation>模型 </translation>
+    </message>
+    <message>
+        <source>Converted from %1; line numbers are those of the conversion.</source>
+        <translation>由 %1 转换而来；行号为转换后文件的行号。</translation>
+    </message>
+    <message>
+        <source>, %1 that name a node twice</source>
+        <translation>，%1 个重复引用同一节点</translation>
+    </message>
+    <message>
+        <source>%1 nodes, %2 tetrahedra, %3 inverted, %4 flat</source>
+        <translation>%1 个节点，%2 个四面体，%3 个翻转，%4 个扁平</translation>
+    </message>
+    <message>
+        <source>%1 lines skipped: </source>
+        <translation>跳过 %1 行：</translation>
+    </message>
+    <message>
+        <source>Warning: </source>
+        <translation>警告：</translation>
+    </message>
+    <message>
+        <source>metric</source>
+        <translation>指标</translation>
+    </message>
+    <message>
+        <source>feature (mean)</source>
+        <translation>特征（均值）</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>特征</translation>
+    </message>
+    <message>
+        <source>Histograms</source>
+        <translation>直方图</translation>
+    </message>
+    <message>
+        <source>element</source>
+        <translation>单元</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>region</source>
+        <translation>区域</translation>
+    </message>
+    <message>
+        <source>Worst elements by %1</source>
+        <translation>按 %1 最差的单元</translation>
+    </message>
+    <message>
+        <source>Regions, %1</source>
+        <translation>各区域的 %1</translation>
+    </message>
+    <message>
+        <source>warning: </source>
+        <translation>警告：</translation>
+    </message>
+    <message>
+        <source>warning: %1 lines skipped: </source>
+        <translation>警告：跳过 %1 行：</translation>
+    </message>
+    <message>
+        <source>predict takes no arguments</source>
+        <translation>predict 不接受参数</translation>
+    </message>
+    <message>
+        <source>warning: the score is no number; why is told by: meshquality report &apos;%1&apos;</source>
+        <translation>警告：评分不是数字；原因请运行：meshquality report &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>另有 %1 处</translation>
+    </message>
+    <message>
+        <source>%1 to %2: %3</source>
+        <translation>%1 至 %2：%3</translation>
+    </message>
+    <message>
+        <source>no finite value</source>
+        <translation>没有有限值</translation>
+    </message>
+    <message>
+        <source>    element %1 (line %2), region %3, at %4 %5 %6
+</source>
+        <translation>    单元 %1（第 %2 行），区域 %3，位于 %4 %5 %6
+</translation>
+    </message>
+    <message>
+        <source>  worst by %1:
+</source>
+        <translation>  按 %1 最差：
+</translation>
+    </message>
+    <message>
+        <source>    no finite value
+</source>
+        <translation>    没有有限值
+</translation>
+    </message>
+    <message>
+        <source>  region %1: %2 tetrahedra (%3 inverted, %4 flat)
+</source>
+        <translation>  区域 %1：%2 个四面体（%3 个翻转，%4 个扁平）
+</translation>
+    </message>
+    <message>
+        <source>    %1 tetrahedra name a node twice
+</source>
+        <translation>    %1 个四面体重复引用同一节点
+</translation>
+    </message>
+    <message>
+        <source>  converted from %1; line numbers are those of the conversion
+</source>
+        <translation>  由 %1 转换而来；行号为转换后文件的行号
+</translation>
+    </message>
+    <message>
+        <source>  %1 nodes, %2 tetrahedra (%3 inverted, %4 flat)
+</source>
+        <translation>  %1 个节点，%2 个四面体（%3 个翻转，%4 个扁平）
+</translation>
+    </message>
+    <message>
+        <source>  %1 tetrahedra name a node twice
+</source>
+        <translation>  %1 个四面体重复引用同一节点
+</translation>
+    </message>
+    <message>
+        <source>  %1 lines skipped:
+    </source>
+        <translation>  跳过 %1 行：
+    </translation>
+    </message>
+    <message>
+        <source>out of the range of numbers</source>
+        <translation>超出数值范围</translation>
+    </message>
+    <message>
+        <source>    element %1 (line %2): %3
+</source>
+        <translation>    单元 %1（第 %2 行）：%3
+</translation>
+    </message>
+    <message>
+        <source>    and %1 more
+</source>
+        <translation>    另有 %1 个
+</translation>
+    </message>
+    <message>
+        <source>  no finite mean of %1: %2
+</source>
+        <translation>  %1 的均值不是有限数：%2
+</translation>
+    </message>
+    <message>
+        <source>every element has a value and so has the mean, but it is too large for the single precision in which the model takes it</source>
+        <translation>每个单元都有数值，均值也有，但超出了模型所用单精度的范围</translation>
+    </message>
+    <message>
+        <source>every element has a value, but their sum is out of range</source>
+        <translation>每个单元都有数值，但总和超出范围</translation>
+    </message>
+    <message>
+        <source>these elements have no finite value</source>
+        <translation>下列单元没有有限值</translation>
+    </message>
+    <message>
+        <source>  no score: the model cannot be used
+</source>
+        <translation>  无评分：模型无法使用
+</translation>
+    </message>
+    <message>
+        <source>  score </source>
+        <translation>  评分 </translation>
+    </message>
+    <message>
+        <source> means nothing</source>
+        <translation>没有意义</translation>
+    </message>
+    <message>
+        <source>: there is none</source>
+        <translation>：无</translation>
+    </message>
+    <message>
+        <source>, because a mean is no finite number:
+</source>
+        <translation>，因为有均值不是有限数：
+</translation>
+    </message>
+    <message>
+        <source> (0 worst, 1 best)
+</source>
+        <translation>（0 最差，1 最好）
+</translation>
+    </message>
+    <message>
+        <source>: there is none, because the model gives no number for these means
+</source>
+        <translation>：无，因为模型对这些均值未给出数值
+</translation>
+    </message>
+    <message>
+        <source>  warning: </source>
+        <translation>  警告：</translation>
+    </message>
 </context>
 </TS>

@@ -11,8 +11,12 @@
 #include <meshquality/SkippedText.h>
 #include <meshquality/SvgHistogram.h>
 
+#include <configoption/ConfigManager.h>
+
 #include <algorithm>
 #include <cmath>
+
+#include <QCoreApplication>
 
 namespace MeshQuality {
 
@@ -22,7 +26,7 @@ using Metric = MeshQualityReport::Metric;
 namespace {
 
 const char* const pageStart = R"(<!DOCTYPE html>
-<html lang="en"><head><meta charset="utf-8"><title>Mesh quality</title>
+<html lang="%1"><head><meta charset="utf-8"><title>%2</title>
 <meta name="viewport" content="width=device-width, initial-scale=1">
 <style>
 body { font: 15px/1.4 sans-serif; max-width: 1400px; margin: 1.5em auto; padding: 0 1em; color: #222 }
@@ -37,14 +41,23 @@ th:first-child, td:first-child { text-align: left }
 .histograms { display: flex; flex-wrap: wrap; gap: 1em 1.6em }
 svg rect { fill: #4a7fb0 } svg line { stroke: #888 } svg text { font: 12px sans-serif; fill: #222 }
 </style></head><body>
-<h1>Mesh quality</h1>
+<h1>%2</h1>
 )";
+
+QByteArray pageStartText()
+{
+    const bool isChinese = ConfigOption::ConfigManager::getInstance()->getLanguage() == QLatin1String("Chinese");
+    return QString::fromLatin1(pageStart)
+        .arg(isChinese ? QStringLiteral("zh-CN") : QStringLiteral("en"),
+             Html::escaped(QCoreApplication::translate("meshquality", "Mesh quality")))
+        .toUtf8();
+}
 
 const char* const pageEnd = "</body></html>\n";
 
-QString heading(const char* text)
+QString heading(const QString& text)
 {
-    return Html::element("h3", QString::fromLatin1(text)) + QLatin1Char('\n');
+    return Html::element("h3", text) + QLatin1Char('\n');
 }
 
 QString scrolling(const Html::Table& table)
@@ -60,9 +73,11 @@ bool areMeansFinite(const ScoredMesh& mesh)
 
 QString noScoreText(const ScoredMesh& mesh)
 {
-    return !mesh.isScored         ? QStringLiteral("There is no score, because the model cannot be used.")
-           : areMeansFinite(mesh) ? QStringLiteral("There is no score, because the model gives no number.")
-                                  : QStringLiteral("There is no score, because a mean is no finite number.");
+    return !mesh.isScored
+               ? QCoreApplication::translate("meshquality", "There is no score, because the model cannot be used.")
+           : areMeansFinite(mesh)
+               ? QCoreApplication::translate("meshquality", "There is no score, because the model gives no number.")
+               : QCoreApplication::translate("meshquality", "There is no score, because a mean is no finite number.");
 }
 
 QString warning(const QString& text)
@@ -73,11 +88,13 @@ QString warning(const QString& text)
 QString scoreText(const ScoredMesh& mesh)
 {
     const double score = static_cast<double>(mesh.score);
-    return QStringLiteral("<p><span class=\"score\">%1</span> score (0 worst, 1 best)</p>\n").arg(Html::number(score)) +
-           (std::isnan(score)      ? warning(noScoreText(mesh))
-            : areMeansFinite(mesh) ? QString()
-                                   : warning(QStringLiteral("The score means nothing, because a mean is no finite "
-                                                            "number.")));
+    return QStringLiteral("<p><span class=\"score\">%1</span> %2</p>\n")
+               .arg(Html::number(score), QCoreApplication::translate("meshquality", "score (0 worst, 1 best)")) +
+           (std::isnan(score) ? warning(noScoreText(mesh))
+            : areMeansFinite(mesh)
+                ? QString()
+                : warning(QCoreApplication::translate("meshquality",
+                                                      "The score means nothing, because a mean is no finite number.")));
 }
 
 QString modelText(const ScoredMesh& mesh)
@@ -85,7 +102,8 @@ QString modelText(const ScoredMesh& mesh)
     if (!mesh.isScored) {
         return QString();
     }
-    QString text = Html::element("p", QStringLiteral("Model ") + modelSentence(mesh)) + QLatin1Char('\n');
+    QString text = Html::element("p", QCoreApplication::translate("meshquality", "Model ") + modelSentence(mesh)) +
+                   QLatin1Char('\n');
     for (const DataManager::QualityModelCard::Excess& excess : excesses(mesh)) {
         text += warning(excessText(excess));
     }
@@ -96,15 +114,17 @@ QString conversion(const ScoredMesh& mesh)
 {
     return mesh.convertedFrom.isEmpty()
                ? QString()
-               : Html::element("p", QStringLiteral("Converted from %1; line numbers are those of the conversion.")
+               : Html::element("p", QCoreApplication::translate(
+                                        "meshquality", "Converted from %1; line numbers are those of the conversion.")
                                         .arg(mesh.convertedFrom)) +
                      QLatin1Char('\n');
 }
 
 QString counts(const MeshQualityReport& report)
 {
-    const QString twice = QStringLiteral(", %1 that name a node twice").arg(report.duplicateNodeCount());
-    const QString text = QStringLiteral("%1 nodes, %2 tetrahedra, %3 inverted, %4 flat")
+    const QString twice =
+        QCoreApplication::translate("meshquality", ", %1 that name a node twice").arg(report.duplicateNodeCount());
+    const QString text = QCoreApplication::translate("meshquality", "%1 nodes, %2 tetrahedra, %3 inverted, %4 flat")
                              .arg(report.nodeCount())
                              .arg(report.elementCount())
                              .arg(report.invertedCount())
@@ -115,23 +135,28 @@ QString counts(const MeshQualityReport& report)
 QString skippedLines(const MeshQualityReport& report)
 {
     const QStringList places = skippedPlaces(report);
-    return places.isEmpty() ? QString()
-                            : warning(QStringLiteral("%1 lines skipped: ").arg(report.skippedLineCount()) +
-                                      places.join(QStringLiteral("; ")));
+    return places.isEmpty()
+               ? QString()
+               : warning(
+                     QCoreApplication::translate("meshquality", "%1 lines skipped: ").arg(report.skippedLineCount()) +
+                     places.join(QStringLiteral("; ")));
 }
 
 QString warnings(const ScoredMesh& mesh)
 {
     QString text;
     for (const QString& doubt : mesh.report.warnings(mesh.file)) {
-        text += warning(QStringLiteral("Warning: ") + doubt);
+        text += warning(QCoreApplication::translate("meshquality", "Warning: ") + doubt);
     }
     return text;
 }
 
-const QStringList spreadHead{QStringLiteral("minimum"), QStringLiteral("1 %"),  QStringLiteral("5 %"),
-                             QStringLiteral("median"),  QStringLiteral("95 %"), QStringLiteral("99 %"),
-                             QStringLiteral("maximum")};
+QStringList spreadHead()
+{
+    return {QCoreApplication::translate("meshquality", "minimum"), QStringLiteral("1 %"),  QStringLiteral("5 %"),
+            QCoreApplication::translate("meshquality", "median"),  QStringLiteral("95 %"), QStringLiteral("99 %"),
+            QCoreApplication::translate("meshquality", "maximum")};
+}
 
 QStringList spread(const MeshQualityReport::Summary& s)
 {
@@ -145,19 +170,22 @@ QStringList spread(const MeshQualityReport::Summary& s)
 
 QString features(const MeshQualityReport& report)
 {
-    Html::Table table(QStringList{QStringLiteral("metric"), QStringLiteral("feature (mean)")} + spreadHead);
+    Html::Table table(QStringList{QCoreApplication::translate("meshquality", "metric"),
+                                  QCoreApplication::translate("meshquality", "feature (mean)")} +
+                      spreadHead());
     for (int i = 0; i < MeshQualityReport::metricCount; ++i) {
         const auto metric = static_cast<Metric>(i);
         const double mean = static_cast<double>(report.features()[static_cast<std::size_t>(i)]);
         table.addRow(QStringList{MeshQualityReport::metricName(metric), Html::number(mean)} +
                      spread(report.summary(metric)));
     }
-    return heading("Features") + scrolling(table);
+    return heading(QCoreApplication::translate("meshquality", "Features")) + scrolling(table);
 }
 
 QString histograms(const MeshQualityReport& report)
 {
-    QString text = heading("Histograms") + QStringLiteral("<div class=\"histograms\">\n");
+    QString text = heading(QCoreApplication::translate("meshquality", "Histograms")) +
+                   QStringLiteral("<div class=\"histograms\">\n");
     for (int i = 0; i < MeshQualityReport::metricCount; ++i) {
         text += svgHistogram(report, static_cast<Metric>(i));
     }
@@ -189,21 +217,27 @@ QStringList elementCells(const MeshQualityReport& report, int element)
 
 QString worst(const MeshQualityReport& report, const ReportOptions& options)
 {
-    Html::Table table(QStringList{QStringLiteral("element"), QStringLiteral("line"), QStringLiteral("region"),
-                                  QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z")} +
+    Html::Table table(QStringList{QCoreApplication::translate("meshquality", "element"),
+                                  QCoreApplication::translate("meshquality", "line"),
+                                  QCoreApplication::translate("meshquality", "region"), QStringLiteral("x"),
+                                  QStringLiteral("y"), QStringLiteral("z")} +
                       metricNames());
     for (const int element : report.worst(options.worstBy, options.worstListed())) {
         table.addRow(elementCells(report, element));
     }
-    return Html::element("h3", QStringLiteral("Worst elements by ") + MeshQualityReport::metricName(options.worstBy)) +
+    return Html::element("h3", QCoreApplication::translate("meshquality", "Worst elements by %1")
+                                   .arg(MeshQualityReport::metricName(options.worstBy))) +
            QLatin1Char('\n') + scrolling(table);
 }
 
 QString regions(const MeshQualityReport& report, Metric metric)
 {
-    Html::Table table(QStringList{QStringLiteral("region"), QStringLiteral("tetrahedra"), QStringLiteral("inverted"),
-                                  QStringLiteral("flat"), QStringLiteral("mean")} +
-                      spreadHead);
+    Html::Table table(QStringList{QCoreApplication::translate("meshquality", "region"),
+                                  QCoreApplication::translate("meshquality", "tetrahedra"),
+                                  QCoreApplication::translate("meshquality", "inverted"),
+                                  QCoreApplication::translate("meshquality", "flat"),
+                                  QCoreApplication::translate("meshquality", "mean")} +
+                      spreadHead());
     for (const MeshQualityReport::Region& region : report.regions()) {
         const MeshQualityReport::Summary& summary = region.summaries[static_cast<std::size_t>(metric)];
         table.addRow(QStringList{regionName(region.name, region.physicalTag), QString::number(region.elementCount),
@@ -211,7 +245,9 @@ QString regions(const MeshQualityReport& report, Metric metric)
                                  Html::number(summary.mean)} +
                      spread(summary));
     }
-    return Html::element("h3", QStringLiteral("Regions, ") + MeshQualityReport::metricName(metric)) +
+    return Html::element(
+               "h3",
+               QCoreApplication::translate("meshquality", "Regions, %1").arg(MeshQualityReport::metricName(metric))) +
            QLatin1Char('\n') + scrolling(table);
 }
 
@@ -219,7 +255,7 @@ QString regions(const MeshQualityReport& report, Metric metric)
 
 HtmlReport::HtmlReport(const ReportOptions& options) : m_options(options), m_file(options.htmlFile)
 {
-    m_file.write(pageStart);
+    m_file.write(pageStartText());
 }
 
 void HtmlReport::write(const ScoredMesh& mesh)

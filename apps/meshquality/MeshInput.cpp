@@ -5,11 +5,13 @@
 
 #include <console/Console.h>
 #include <meshquality/GmshConversion.h>
+#include <meshquality/ProblemText.h>
 #include <meshquality/ProgressLine.h>
 #include <meshquality/ScoredMesh.h>
 #include <meshquality/SkippedText.h>
 #include <meshquality/VtuConversion.h>
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
@@ -32,7 +34,7 @@ bool measure(ScoredMesh& mesh, const QString& path)
 {
     const bool isMeasured = measureWithProgress(mesh, path);
     for (const QString& warning : mesh.report.warnings(mesh.file)) {
-        Console::printError(mesh.file, QStringLiteral("warning: ") + warning);
+        Console::printError(mesh.file, QCoreApplication::translate("meshquality", "warning: ") + warning);
     }
     return isMeasured;
 }
@@ -81,11 +83,11 @@ ExitCode measureConverted(ScoredMesh& mesh, QString& problem)
 ExitCode told(const ScoredMesh& mesh, ExitCode exitCode, const QString& problem)
 {
     if (exitCode != Success) {
-        Console::printError(mesh.file, problem);
+        Console::printError(mesh.file, translated(problem));
     } else if (mesh.report.skippedLineCount() > 0) {
-        Console::printError(mesh.file,
-                            QStringLiteral("warning: %1 lines skipped: ").arg(mesh.report.skippedLineCount()) +
-                                skippedPlaces(mesh.report).join(QStringLiteral("; ")));
+        Console::printError(mesh.file, QCoreApplication::translate("meshquality", "warning: %1 lines skipped: ")
+                                               .arg(mesh.report.skippedLineCount()) +
+                                           skippedPlaces(mesh.report).join(QStringLiteral("; ")));
     }
     return exitCode;
 }

@@ -36,7 +36,7 @@ QString historyText(const std::vector<float>& history)
 ExitCode runPredict(const QStringList& arguments)
 {
     if (arguments.size() > 1) {
-        Console::printUsageError(QStringLiteral("predict takes no arguments"));
+        Console::printUsageError(QCoreApplication::translate("meshquality", "predict takes no arguments"));
         return UsageError;
     }
     // The predictor itself tells nothing: without a mesh it scores zeros, and of another format it makes something.
@@ -53,9 +53,10 @@ ExitCode runPredict(const QStringList& arguments)
     }
     const std::vector<float> history = MeshQualityPredict::getinstance()->getOutput();
     if (std::isnan(history.back())) {
-        Console::printError(mesh.file, QStringLiteral("warning: the score is no number; why is told by: meshquality "
-                                                      "report '%1'")
-                                           .arg(mesh.file));
+        Console::printError(
+            mesh.file, QCoreApplication::translate(
+                           "meshquality", "warning: the score is no number; why is told by: meshquality report '%1'")
+                           .arg(mesh.file));
     }
     Console::print(historyText(history));
     return Success;

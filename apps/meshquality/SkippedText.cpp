@@ -3,7 +3,11 @@
 
 #include <meshquality/SkippedText.h>
 
+#include <meshquality/ProblemText.h>
+
 #include <datamanager/meshquality/MeshQualityReport.h>
+
+#include <QCoreApplication>
 
 namespace MeshQuality {
 
@@ -15,11 +19,11 @@ QStringList skippedPlaces(const MeshQualityReport& report)
     QStringList places;
     for (std::size_t i = 0; i < report.skippedLines().size() && i < shown; ++i) {
         const MeshQualityReport::SkippedLine& line = report.skippedLines()[i];
-        places.append(QStringLiteral("line %1: %2")
-                          .arg(QString::number(line.line), MeshQualityReport::skipReasonText(line.reason)));
+        places.append(QCoreApplication::translate("meshquality", "line %1: %2")
+                          .arg(QString::number(line.line), translated(MeshQualityReport::skipReasonText(line.reason))));
     }
     const qint64 more = report.skippedLineCount() - places.size();
-    return more == 0 ? places : places << QStringLiteral("and %1 more").arg(more);
+    return more == 0 ? places : places << QCoreApplication::translate("meshquality", "and %1 more").arg(more);
 }
 
 } // namespace MeshQuality

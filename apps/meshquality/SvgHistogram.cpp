@@ -5,6 +5,8 @@
 
 #include <meshquality/HtmlText.h>
 
+#include <QCoreApplication>
+
 namespace MeshQuality {
 
 using DataManager::MeshQualityReport;
@@ -46,7 +48,9 @@ QString bars(const MeshQualityReport::Histogram& histogram)
         const int count = histogram.counts[static_cast<std::size_t>(bin)];
         const double lower = histogram.lower + width * bin;
         text += bar(bin, count, most,
-                    QStringLiteral("%1 to %2: %3").arg(Html::number(lower), Html::number(lower + width)).arg(count));
+                    QCoreApplication::translate("meshquality", "%1 to %2: %3")
+                        .arg(Html::number(lower), Html::number(lower + width))
+                        .arg(count));
     }
     return text;
 }
@@ -64,7 +68,8 @@ QString svgHistogram(const MeshQualityReport& report, MeshQualityReport::Metric 
                        .arg(Html::escaped(name), QString::number(width), QString::number(bottom + titleHeight));
     text += label(0, 12, "start", name);
     if (histogram.counts.empty()) {
-        return text + label(width / 2, bottom / 2, "middle", QStringLiteral("no finite value")) +
+        return text +
+               label(width / 2, bottom / 2, "middle", QCoreApplication::translate("meshquality", "no finite value")) +
                QStringLiteral("</svg>\n");
     }
     return text + bars(histogram) +

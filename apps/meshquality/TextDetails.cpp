@@ -3,11 +3,14 @@
 
 #include <meshquality/TextDetails.h>
 
+#include <console/Columns.h>
 #include <meshquality/NumberText.h>
 #include <meshquality/RegionName.h>
 #include <meshquality/ReportOptions.h>
 
 #include <algorithm>
+
+#include <QCoreApplication>
 
 namespace MeshQuality {
 
@@ -28,7 +31,7 @@ QString elementText(const MeshQualityReport& report, int element)
     const std::array<double, 3> centre = report.centroid(element);
     const int region = report.physicalTag(element);
     QString text =
-        QStringLiteral("    element %1 (line %2), region %3, at %4 %5 %6\n")
+        QCoreApplication::translate("meshquality", "    element %1 (line %2), region %3, at %4 %5 %6\n")
             .arg(QString::number(report.tag(element)), QString::number(report.line(element)),
                  regionName(report.groupNames().value(region), region), QString::fromLatin1(sixDigits(centre[0])),
                  QString::fromLatin1(sixDigits(centre[1])), QString::fromLatin1(sixDigits(centre[2])));
@@ -51,7 +54,8 @@ QString indented(QString text)
 
 QString worst(const MeshQualityReport& report, const ReportOptions& options, const std::vector<int>& elements)
 {
-    QString text = QStringLiteral("  worst by %1:\n").arg(MeshQualityReport::metricName(options.worstBy));
+    QString text = QCoreApplication::translate("meshquality", "  worst by %1:\n")
+                       .arg(MeshQualityReport::metricName(options.worstBy));
     for (const int element : elements) {
         text += elementText(report, element);
     }
@@ -76,19 +80,32 @@ QString bars(const MeshQualityReport::Histogram& histogram)
 QString histogram(Metric metric, const MeshQualityReport::Histogram& histogram)
 {
     return QStringLiteral("  %1:\n").arg(MeshQualityReport::metricName(metric)) +
-           (histogram.counts.empty() ? QStringLiteral("    no finite value\n") : bars(histogram));
+           (histogram.counts.empty() ? QCoreApplication::translate("meshquality", "    no finite value\n")
+                                     : bars(histogram));
+}
+
+QString spreadHead()
+{
+    QString text(23, QLatin1Char(' '));
+    for (const QString& column :
+         {QCoreApplication::translate("meshquality", "mean"), QCoreApplication::translate("meshquality", "minimum"),
+          QStringLiteral("1 %"), QStringLiteral("5 %"), QCoreApplication::translate("meshquality", "median"),
+          QStringLiteral("95 %"), QCoreApplication::translate("meshquality", "maximum")}) {
+        text += Console::rightJustified(column, 13);
+    }
+    return text + QLatin1Char('\n');
 }
 
 QString regionTable(const MeshQualityReport::Region& region)
 {
-    QString text = QStringLiteral("  region %1: %2 tetrahedra (%3 inverted, %4 flat)\n")
+    QString text = QCoreApplication::translate("meshquality", "  region %1: %2 tetrahedra (%3 inverted, %4 flat)\n")
                        .arg(regionName(region.name, region.physicalTag), QString::number(region.elementCount),
                             QString::number(region.invertedCount), QString::number(region.flatCount));
     if (region.duplicateNodeCount > 0) {
-        text += QStringLiteral("    %1 tetrahedra name a node twice\n").arg(region.duplicateNodeCount);
+        text += QCoreApplication::translate("meshquality", "    %1 tetrahedra name a node twice\n")
+                    .arg(region.duplicateNodeCount);
     }
-    text += QStringLiteral("                             mean      minimum          1 %          5 %       median"
-                           "         95 %      maximum\n");
+    text += spreadHead();
     for (std::size_t i = 0; i < region.summaries.size(); ++i) {
         const MeshQualityReport::Summary& s = region.summaries[i];
         text += QStringLiteral("    ") + MeshQualityReport::metricName(static_cast<Metric>(i)).leftJustified(19) +

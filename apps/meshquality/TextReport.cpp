@@ -3,11 +3,13 @@
 
 #include <meshquality/TextReport.h>
 
+#include <console/Columns.h>
 #include <meshquality/ModelText.h>
 #include <meshquality/NumberText.h>
 #include <meshquality/ScoredMesh.h>
 #include <meshquality/SkippedText.h>
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <cmath>
@@ -30,34 +32,40 @@ QString conversion(const ScoredMesh& mesh)
 {
     return mesh.convertedFrom.isEmpty()
                ? QString()
-               : QStringLiteral("  converted from %1; line numbers are those of the conversion\n")
+               : QCoreApplication::translate("meshquality",
+                                             "  converted from %1; line numbers are those of the conversion\n")
                      .arg(mesh.convertedFrom);
 }
 
 QString counts(const MeshQualityReport& report)
 {
-    const QString text = QStringLiteral("  %1 nodes, %2 tetrahedra (%3 inverted, %4 flat)\n")
-                             .arg(report.nodeCount())
-                             .arg(report.elementCount())
-                             .arg(report.invertedCount())
-                             .arg(report.flatCount());
+    const QString text =
+        QCoreApplication::translate("meshquality", "  %1 nodes, %2 tetrahedra (%3 inverted, %4 flat)\n")
+            .arg(report.nodeCount())
+            .arg(report.elementCount())
+            .arg(report.invertedCount())
+            .arg(report.flatCount());
     const int repeating = report.duplicateNodeCount();
-    return repeating == 0 ? text : text + QStringLiteral("  %1 tetrahedra name a node twice\n").arg(repeating);
+    return repeating == 0
+               ? text
+               : text +
+                     QCoreApplication::translate("meshquality", "  %1 tetrahedra name a node twice\n").arg(repeating);
 }
 
 QString skippedLines(const MeshQualityReport& report)
 {
     const QStringList places = skippedPlaces(report);
     return places.isEmpty() ? QString()
-                            : QStringLiteral("  %1 lines skipped:\n    ").arg(report.skippedLineCount()) +
+                            : QCoreApplication::translate("meshquality", "  %1 lines skipped:\n    ")
+                                      .arg(report.skippedLineCount()) +
                                   places.join(QStringLiteral("\n    ")) + QLatin1Char('\n');
 }
 
 QString row(const QString& name, const QStringList& columns)
 {
-    QString text = QStringLiteral("  ") + name.leftJustified(20);
+    QString text = QStringLiteral("  ") + Console::leftJustified(name, 20);
     for (const QString& column : columns) {
-        text += column.rightJustified(13);
+        text += Console::rightJustified(column, 13);
     }
     return text + QLatin1Char('\n');
 }
@@ -65,9 +73,11 @@ QString row(const QString& name, const QStringList& columns)
 /// The means as the model takes them, and how the finite values are spread, which a mean hides.
 QString features(const MeshQualityReport& report)
 {
-    QString text = row(QStringLiteral("metric"),
-                       {QStringLiteral("mean"), QStringLiteral("minimum"), QStringLiteral("1 %"), QStringLiteral("5 %"),
-                        QStringLiteral("median"), QStringLiteral("95 %"), QStringLiteral("maximum")});
+    QString text =
+        row(QCoreApplication::translate("meshquality", "metric"),
+            {QCoreApplication::translate("meshquality", "mean"), QCoreApplication::translate("meshquality", "minimum"),
+             QStringLiteral("1 %"), QStringLiteral("5 %"), QCoreApplication::translate("meshquality", "median"),
+             QStringLiteral("95 %"), QCoreApplication::translate("meshquality", "maximum")});
     for (int i = 0; i < MeshQualityReport::metricCount; ++i) {
         const Metric metric = static_cast<Metric>(i);
         const double mean = static_cast<double>(report.features()[static_cast<std::size_t>(i)]);
@@ -92,10 +102,10 @@ bool isFinite(const MeshQualityReport& report, int element)
 QString elementText(const MeshQualityReport& report, int element)
 {
     const double volume = report.values(Metric::Volume)[static_cast<std::size_t>(element)];
-    const QString kind = volume < 0.0    ? QStringLiteral("inverted")
-                         : volume == 0.0 ? QStringLiteral("flat")
-                                         : QStringLiteral("out of the range of numbers");
-    return QStringLiteral("    element %1 (line %2): %3\n")
+    const QString kind = volume < 0.0    ? QCoreApplication::translate("meshquality", "inverted")
+                         : volume == 0.0 ? QCoreApplication::translate("meshquality", "flat")
+                                         : QCoreApplication::translate("meshquality", "out of the range of numbers");
+    return QCoreApplication::translate("meshquality", "    element %1 (line %2): %3\n")
         .arg(report.tag(element))
         .arg(report.line(element))
         .arg(kind);
@@ -112,7 +122,7 @@ QString elementsWithoutMetrics(const MeshQualityReport& report)
         }
     }
     if (count > placesShown) {
-        text += QStringLiteral("    and %1 more\n").arg(count - placesShown);
+        text += QCoreApplication::translate("meshquality", "    and %1 more\n").arg(count - placesShown);
     }
     return text;
 }
@@ -146,14 +156,18 @@ QString spoiltMeans(const MeshQualityReport& report)
 {
     const BadMeans bad = badMeans(report);
     const auto line = [](const QStringList& metrics, const QString& what) {
-        return metrics.isEmpty()
-                   ? QString()
-                   : QStringLiteral("  no finite mean of %1: %2\n").arg(metrics.join(QStringLiteral(", ")), what);
+        return metrics.isEmpty() ? QString()
+                                 : QCoreApplication::translate("meshquality", "  no finite mean of %1: %2\n")
+                                       .arg(metrics.join(QStringLiteral(", ")), what);
     };
-    QString text = line(bad.narrowed, QStringLiteral("every element has a value and so has the mean, but it is too "
-                                                     "large for the single precision in which the model takes it"));
-    text += line(bad.overflowing, QStringLiteral("every element has a value, but their sum is out of range"));
-    text += line(bad.ofElements, QStringLiteral("these elements have no finite value"));
+    QString text =
+        line(bad.narrowed,
+             QCoreApplication::translate("meshquality", "every element has a value and so has the mean, but it is too "
+                                                        "large for the single precision in which the model takes it"));
+    text +=
+        line(bad.overflowing,
+             QCoreApplication::translate("meshquality", "every element has a value, but their sum is out of range"));
+    text += line(bad.ofElements, QCoreApplication::translate("meshquality", "these elements have no finite value"));
     return bad.ofElements.isEmpty() ? text : text + elementsWithoutMetrics(report);
 }
 
@@ -161,16 +175,21 @@ QString score(const ScoredMesh& mesh)
 {
     const QString spoilt = spoiltMeans(mesh.report);
     if (!mesh.isScored) {
-        return QStringLiteral("  no score: the model cannot be used\n") + spoilt;
+        return QCoreApplication::translate("meshquality", "  no score: the model cannot be used\n") + spoilt;
     }
     const bool isNumber = !std::isnan(mesh.score);
-    const QString text = QStringLiteral("  score ") + number(static_cast<double>(mesh.score));
+    const QString text =
+        QCoreApplication::translate("meshquality", "  score ") + number(static_cast<double>(mesh.score));
     if (!spoilt.isEmpty()) {
-        const QString verdict = isNumber ? QStringLiteral(" means nothing") : QStringLiteral(": there is none");
-        return text + verdict + QStringLiteral(", because a mean is no finite number:\n") + spoilt;
+        const QString verdict = isNumber ? QCoreApplication::translate("meshquality", " means nothing")
+                                         : QCoreApplication::translate("meshquality", ": there is none");
+        return text + verdict + QCoreApplication::translate("meshquality", ", because a mean is no finite number:\n") +
+               spoilt;
     }
-    return text + (isNumber ? QStringLiteral(" (0 worst, 1 best)\n")
-                            : QStringLiteral(": there is none, because the model gives no number for these means\n"));
+    return text + (isNumber
+                       ? QCoreApplication::translate("meshquality", " (0 worst, 1 best)\n")
+                       : QCoreApplication::translate(
+                             "meshquality", ": there is none, because the model gives no number for these means\n"));
 }
 
 /// Who gave the score, what it says, and why it may say less.
@@ -179,9 +198,9 @@ QString model(const ScoredMesh& mesh)
     if (!mesh.isScored) {
         return QString();
     }
-    QString text = QStringLiteral("  model ") + modelSentence(mesh) + QLatin1Char('\n');
+    QString text = QCoreApplication::translate("meshquality", "  model ") + modelSentence(mesh) + QLatin1Char('\n');
     for (const DataManager::QualityModelCard::Excess& excess : excesses(mesh)) {
-        text += QStringLiteral("  warning: ") + excessText(excess) + QLatin1Char('\n');
+        text += QCoreApplication::translate("meshquality", "  warning: ") + excessText(excess) + QLatin1Char('\n');
     }
     return text;
 }

@@ -85,6 +85,9 @@ private Q_SLOTS:
     void speaksChinese_data();
     void speaksChinese();
     void refusesOtherLanguages();
+    void alignsTables();
+    void writesPages_data();
+    void writesPages();
     void keepsWhatProgramsRead_data();
     void keepsWhatProgramsRead();
 
@@ -303,6 +306,14 @@ void TestTranslations::speaksChinese_data()
                                         << QString() << 1;
     QTest::newRow("meshquality, model") << meshquality << words("model") << text("\n  符合质量模型的约定\n")
                                         << QString() << 0;
+    QTest::newRow("meshquality, report") << meshquality << QStringList{text("report"), slivers}
+                                         << text("\n  777 个节点，3156 个四面体（0 个翻转，0 个扁平）\n") << QString()
+                                         << 0;
+    QTest::newRow("meshquality, score") << meshquality << QStringList{text("report"), slivers}
+                                        << text("\n  评分 0.27891（0 最差，1 最好）\n") << QString() << 0;
+    QTest::newRow("meshquality, compare")
+        << meshquality << QStringList{text("compare"), slivers, slivers}
+        << text("\n  翻转") + QString(36, QLatin1Char(' ')) + text("0            0  相同\n") << QString() << 0;
     QTest::newRow("materials, list") << materials << words("list") << text("    1  有效     Copper ") << QString() << 0;
 }
 
@@ -330,6 +341,55 @@ void TestTranslations::refusesOtherLanguages()
     QCOMPARE(refused.exitCode, 2);
     QCOMPARE(refused.output, QByteArray());
     QCOMPARE(refused.errors, QByteArray("materials: --language takes 'English' or 'Chinese'; see materials --help\n"));
+}
+
+void TestTranslations::alignsTables()
+{
+    const QString mesh = text(DATAMANAGER_SOURCE_DIR "/samples/bearing-housing.msh");
+    const Run english = run(MESHQUALITY_PROGRAM, {text("report"), text("--by-region"), mesh});
+    const Run chinese = run(MESHQUALITY_PROGRAM, {text("--language=zh"), text("report"), text("--by-region"), mesh});
+    const QStringList shown = QString::fromUtf8(chinese.output).split(QLatin1Char('\n'));
+    const QStringList plain = QString::fromUtf8(english.output).split(QLatin1Char('\n'));
+    QCOMPARE(shown.size(), plain.size());
+    int headCount = 0;
+    for (int i = 0; i < plain.size(); ++i) {
+        if (plain.at(i).contains(text("mean      minimum"))) {
+            QVERIFY(shown.at(i).contains(text("最小值")));
+            QCOMPARE(Console::columnCount(shown.at(i)), plain.at(i).size());
+            QCOMPARE(plain.at(i + 1).size(), plain.at(i).size());
+            ++headCount;
+        }
+    }
+    QCOMPARE(headCount, 4); // the mesh and its three regions
+}
+
+void TestTranslations::writesPages_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QStringList>("texts");
+    QTest::newRow("English") << text("English")
+                             << QStringList{text("<html lang=\"en\">"), text("<title>Mesh quality</title>"),
+                                            text("<h1>Mesh quality</h1>"), text("<h3>Worst elements by Shape</h3>")};
+    QTest::newRow("Chinese") << text("Chinese")
+                             << QStringList{text("<html lang=\"zh-CN\">"), text("<title>网格质量</title>"),
+                                            text("<h1>网格质量</h1>"), text("<h3>按 Shape 最差的单元</h3>")};
+}
+
+void TestTranslations::writesPages()
+{
+    QFETCH(QString, language);
+    QFETCH(QStringList, texts);
+    const QTemporaryDir directory;
+    const QString page = directory.filePath(text("page.html"));
+    const Run written = run(MESHQUALITY_PROGRAM, {text("--language"), language, text("report"), text("--html"), page,
+                                                  text(DATAMANAGER_SOURCE_DIR "/samples/slivers.msh")});
+    QCOMPARE(written.exitCode, 0);
+    QFile file(page);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString content = QString::fromUtf8(file.readAll());
+    for (const QString& expected : texts) {
+        QVERIFY2(content.contains(expected), qPrintable(expected));
+    }
 }
 
 void TestTranslations::keepsWhatProgramsRead_data()
