@@ -10,8 +10,13 @@ and over H of the squared length is, exactly,
     2 trace(C) + 1/4 sum_ij grad(lambda_i).grad(lambda_j) (x_i.x_j)^2,     C = 1/20 sum_i x_i x_i'.
 
 So no fields are drawn: the root-mean-square error over all of them is a closed form (check_label.py draws some).
+
+The score predicts how many times that error, in the geometric mean over the elements, exceeds that of regular tetrahedra
+of the same volumes: by so much their edges are too long, because the error grows with the edge length.
 """
 import numpy as np
+
+from tetrahedron_metrics import volumes
 
 
 def barycentric_gradients(corners):
@@ -36,6 +41,7 @@ def mean_square_errors(corners):
     return (spread + bias) * size ** 2, volume * size ** 3
 
 
+WAYS = ["", "Mean", "Rms", "Even"]
 REGULAR = np.array([[[1, 1, 1], [1, -1, -1], [-1, 1, -1], [-1, -1, 1.0]]])
 
 
@@ -45,18 +51,35 @@ def ideal_constant():
     return error[0] / abs(volume[0]) ** (2 / 3)
 
 
-def accuracy(points, tetrahedra):
-    """Ideal error / own error in [0, 1]; NaN where an element is flat or inverted."""
+def local_volumes(tetrahedra, volume, points):
+    """The mean volume of the elements round each, its own among them, those with several common nodes counted so often;
+    scaled so that ideal elements of these volumes, filling the same space, are as many as the mesh has."""
+    nodes = np.bincount(tetrahedra.ravel(), np.repeat(volume, 4), points)
+    times = np.bincount(tetrahedra.ravel(), minlength=points)
+    local = nodes[tetrahedra].sum(1) / times[tetrahedra].sum(1)
+    return local * (volume / local).sum() / len(volume)
+
+
+def compare(error, volume, local, constant):
+    """Mean square errors [m] of elements against those of regular tetrahedra, constant V^(2/3), in four ways: what the
+    score means; the mean error and the root mean square where ideal elements of the local volumes would all have the
+    same share in it; and the root mean square over the plain volume against equally large ones."""
+    share, ratio = volume / local / len(volume), error / (constant * local ** (2 / 3))
+    even = constant * (volume.sum() / len(volume)) ** (2 / 3) * volume.sum() / (error * volume).sum()
+    with np.errstate(invalid="ignore", divide="ignore"):
+        excess = np.log(error / (constant * volume ** (2 / 3))) / 2
+    return {"": np.exp(-excess.mean()), "Mean": 1 / (share * np.sqrt(ratio)).sum(),
+            "Rms": (share * ratio).sum() ** -0.5, "Even": even ** 0.5}
+
+
+def accuracies(points, tetrahedra):
+    """The four of compare() for the interpolation error; NaN where an element is flat or inverted."""
+    if not (volumes(points, tetrahedra) > 0).all():
+        return dict.fromkeys(WAYS, np.nan)
     error, volume = mean_square_errors(points[tetrahedra])
-    if not (volume > 0).all():
-        return np.nan
-    own = (error * volume).sum() / volume.sum()
-    ideal = ideal_constant() * (volume.sum() / len(volume)) ** (2 / 3)
-    return float(np.sqrt(ideal / own))
+    return compare(error, volume, local_volumes(tetrahedra, volume, len(points)), ideal_constant())
 
 
-def size_share(points, tetrahedra):
-    """What regular tetrahedra of these same volumes would reach: the part of the accuracy that uneven sizes cost."""
-    volume = np.linalg.det(points[tetrahedra[:, 1:]] - points[tetrahedra[:, :1]])
-    volume = np.abs(volume)
-    return float(((volume / volume.mean()) ** (5 / 3)).mean() ** -0.5)
+def accuracy(points, tetrahedra):
+    """What the score predicts, in [0, 1]: the geometric mean over the elements of ideal error / own error."""
+    return float(accuracies(points, tetrahedra)[""])

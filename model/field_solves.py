@@ -3,10 +3,11 @@
 # SPDX-License-Identifier: BSD-3-Clause
 """The second labels, from real solves: field_solves.py FOLDER. Goes on where it was stopped.
 
-Every second run of Gmsh, meshes of up to 8,000 elements: the Poisson equation and linear elasticity (Poisson ratio 0.3)
+Unseen families, every second run of Gmsh, meshes of up to 8,000 elements: the Poisson equation and linear elasticity (Poisson ratio 0.3)
 are solved with linear elements for quadratic solutions given on the boundary. The error is a quadratic form of the
 solution's Hessian, so its sum over an orthonormal basis of symmetric Hessians (6, and 18 for the vector field) is the
-mean over all random ones. Label = interpolation error of regular tetrahedra in the same norm / error of the solve.
+mean over all random ones. The labels hold the errors of the solve against the interpolation errors of regular
+tetrahedra in the same norm, in the ways of accuracy_label.compare().
 """
 import json
 import pathlib
@@ -16,8 +17,9 @@ import numpy as np
 from scipy.sparse import coo_matrix
 from scipy.sparse.linalg import splu
 
-from accuracy_label import REGULAR, barycentric_gradients
+from accuracy_label import REGULAR, barycentric_gradients, compare, local_volumes
 from mesh_file import read_mesh
+from split import TEST_FAMILIES
 
 LAME, SHEAR = 0.3 / (1.3 * 0.4), 1 / 2.6
 MOST_ELEMENTS, EVERY = 8000, 2
@@ -63,14 +65,14 @@ def values_at(points, hessians):
     return 0.5 * np.einsum("na,cab,nb->nc", points, hessians, points)
 
 
-def square_error(points, tetrahedra, values, hessians, density):
-    """Integral of the density of the error's gradient, for nodal values [n, components]."""
+def square_errors(points, tetrahedra, values, hessians, density):
+    """Mean over each element [m] of the density of the error's gradient, for nodal values [n, components]."""
     corners = points[tetrahedra]
-    gradients, volume = barycentric_gradients(corners)
+    gradients, _ = barycentric_gradients(corners)
     own = np.einsum("mia,mic->mca", gradients, values[tetrahedra])
     places = np.einsum("qi,mia->mqa", RULE, corners)
     error = np.einsum("cab,mqb->mqca", hessians, places) - own[:, None]
-    return (density(error if len(hessians) == 3 else error[:, :, 0]).mean(1) * volume).sum()
+    return density(error if len(hessians) == 3 else error[:, :, 0]).mean(1)
 
 
 def scalar_stiffness(gradients, volume):
@@ -107,8 +109,8 @@ def inner_nodes(tetrahedra, count):
     return np.setdiff1d(np.unique(tetrahedra), unique[times == 1])
 
 
-def solve_error(points, tetrahedra, fields, stiffness, load, density):
-    """Squared error of the finite-element solutions, summed over the fields."""
+def solve_errors(points, tetrahedra, fields, stiffness, load, density):
+    """Mean square errors [m] of the finite-element solutions, summed over the fields."""
     components = fields.shape[1]
     gradients, volume = barycentric_gradients(points[tetrahedra])
     matrix = assemble(stiffness(gradients, volume), tetrahedra, components, components * len(points))
@@ -122,15 +124,15 @@ def solve_error(points, tetrahedra, fields, stiffness, load, density):
             force = (share[:, None] * load(hessians)).ravel()
             flat = values.ravel()  # a view: the exact values stay on the boundary
             flat[inner] += factor.solve((force - matrix @ flat)[inner])
-        total += square_error(points, tetrahedra, values, hessians, density)
+        total = total + square_errors(points, tetrahedra, values, hessians, density)
     return total
 
 
 def ideal_error(fields, density):
-    """Squared interpolation error of one regular tetrahedron, for unit volume and one element a unit volume."""
+    """Mean square interpolation error of a regular tetrahedron of unit volume."""
     corners = np.array([[0, 2, 1, 3]])
     points = REGULAR[0] / np.cbrt(8 / 3)
-    return sum(square_error(points, corners, values_at(points, h), h, density) for h in fields)
+    return sum(square_errors(points, corners, values_at(points, h), h, density)[0] for h in fields)
 
 
 PROBLEMS = {"poisson": (scalar_fields(), scalar_stiffness, scalar_load, scalar_density),
@@ -141,10 +143,12 @@ IDEAL = {name: ideal_error(problem[0], problem[3]) for name, problem in PROBLEMS
 def solved_accuracy(points, tetrahedra):
     points = points - points.mean(0)
     points = points / np.abs(points).max()
-    total = barycentric_gradients(points[tetrahedra])[1].sum()
-    allowed = total * (total / len(tetrahedra)) ** (2 / 3)
-    return {name: float(np.sqrt(IDEAL[name] * allowed / solve_error(points, tetrahedra, *problem)))
-            for name, problem in PROBLEMS.items()}
+    volume = barycentric_gradients(points[tetrahedra])[1]
+    local, labels = local_volumes(tetrahedra, volume, len(points)), {}
+    for name, problem in PROBLEMS.items():
+        found = compare(solve_errors(points, tetrahedra, *problem), volume, local, IDEAL[name])
+        labels.update({name + way: float(value) for way, value in found.items()})
+    return labels
 
 
 def main():
@@ -153,7 +157,8 @@ def main():
     done = {json.loads(line)["mesh"] for line in out.read_text().splitlines()} if out.exists() else set()
     for line in (folder / "meshes.jsonl").read_text().splitlines():
         row = json.loads(line)
-        if row["mesh"] in done or int(row["mesh"][:4]) % EVERY or row["elements"] > MOST_ELEMENTS:
+        wanted = row["family"] in TEST_FAMILIES and row["elements"] <= MOST_ELEMENTS
+        if row["mesh"] in done or not wanted or int(row["mesh"][:4]) % EVERY:
             continue
         try:
             labels = solved_accuracy(*read_mesh(folder / row["mesh"]))

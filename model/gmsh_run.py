@@ -3,6 +3,7 @@
 """Draws mesher options and runs Gmsh on one geometry until the element count is near the one wanted."""
 import os
 import pathlib
+import resource
 import subprocess
 
 from mesh_file import read_mesh
@@ -10,11 +11,15 @@ from tetrahedron_metrics import volumes
 
 # What Debian's Gmsh is built with; its frontal algorithm needs a Netgen that it lacks.
 ALGORITHMS = {"delaunay": 1, "hxt": 10, "initial": 3}
-SECONDS = 20  # a run of 50,000 elements takes three
+SECONDS = 20  # of processor time, so that a busy machine makes the same meshes; 50,000 elements take three
 # HXT's meshes depend on addresses and on memory it has not written: with both fixed, they repeat.
 COMMAND = ["setarch", "-R", "gmsh", "-", "-v", "1", "-nt", "1", "-rand", "1e-9", "-save", "-format", "msh22",
            "-o", "one.msh", "one.geo"]
 ENVIRONMENT = {"PATH": os.environ["PATH"], "MALLOC_PERTURB_": "1", "LC_ALL": "C", "OMP_NUM_THREADS": "1"}
+
+
+def limit_time():
+    resource.setrlimit(resource.RLIMIT_CPU, (SECONDS, SECONDS))
 
 
 def draw_options(generator):
@@ -60,10 +65,10 @@ def run_once(geometry, options, size, folder):
     parts = ['SetFactory("OpenCASCADE");', geometry, size_text(options, size), option_text(options)]
     script.write_text("\n".join(parts))
     try:
-        subprocess.run(COMMAND, cwd=folder, env=ENVIRONMENT, timeout=SECONDS, stdout=subprocess.DEVNULL,
-                       stderr=subprocess.DEVNULL, check=False)
+        subprocess.run(COMMAND, cwd=folder, env=ENVIRONMENT, stdout=subprocess.DEVNULL,
+                       stderr=subprocess.DEVNULL, check=False, preexec_fn=limit_time)
         points, tetrahedra = read_mesh(mesh)
-    except (OSError, ValueError, IndexError, subprocess.TimeoutExpired):
+    except (OSError, ValueError, IndexError):
         return None
     return (points, tetrahedra) if len(tetrahedra) and (volumes(points, tetrahedra) > 0).all() else None
 

@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: BSD-3-Clause
 """Joins labels and features: make_table.py FOLDER TABLE.csv [MESHQUALITY].
 
-FOLDER is what make_meshes.py filled (and field_solves.py, for the second labels). The features come from the program
+FOLDER is what make_meshes.py and make_labels.py filled (and field_solves.py, for the second labels). The features come from the program
 named last; without it they come from tetrahedron_metrics.py.
 """
 import csv
@@ -14,15 +14,14 @@ import sys
 
 import numpy as np
 
-from accuracy_label import size_share
 from mesh_file import read_mesh
-from tetrahedron_metrics import FEATURES, element_metrics, mean_features
+from table import LABELS
+from tetrahedron_metrics import FEATURES, mean_features
 
 CHOICES = ["mesh", "family", "algorithm", "surface", "optimise", "grading", "ratio", "stretch", "jitter", "shuffled",
            "scale", "elements"]
 # Below this an element is flat to within rounding, and so are its metrics' digits: such meshes are left out.
 FLAT = 1e-6
-LABELS = ["minScaledJacobian", "sizeShare", "accuracy", "poisson", "elasticity"]
 BATCH = 100
 
 
@@ -42,13 +41,6 @@ def own_features(_, paths):
         yield mean_features(*read_mesh(path)).tolist()
 
 
-def seen_in_the_mesh(path):
-    points, tetrahedra = read_mesh(path)
-    metrics = element_metrics(points, tetrahedra)
-    return {"minScaledJacobian": float(metrics[:, FEATURES.index("ScaledJacobian")].min()),
-            "sizeShare": size_share(points, tetrahedra)}
-
-
 def text(value):
     return f"{value:.6g}" if isinstance(value, float) else value
 
@@ -57,7 +49,9 @@ def main():
     folder, table = pathlib.Path(sys.argv[1]), sys.argv[2]
     program = sys.argv[3] if len(sys.argv) > 3 else None
     features = program_features if program else own_features
-    solves = {row["mesh"]: row for row in read_lines(folder / "solves.jsonl")}
+    measured = {row["mesh"]: row for row in read_lines(folder / "labels.jsonl")}
+    for row in read_lines(folder / "solves.jsonl"):
+        measured[row["mesh"]].update(row)
     rows = sorted(read_lines(folder / "meshes.jsonl"), key=lambda row: row["mesh"])
     with open(table, "w", encoding="ascii", newline="") as stream:
         writer = csv.writer(stream, lineterminator="\n")
@@ -65,7 +59,7 @@ def main():
         for start in range(0, len(rows), BATCH):
             batch = rows[start:start + BATCH]
             for row, values in zip(batch, features(program, [folder / row["mesh"] for row in batch])):
-                labels = {**solves.get(row["mesh"], {}), **row, **seen_in_the_mesh(folder / row["mesh"])}
+                labels = measured[row["mesh"]]
                 if labels["minScaledJacobian"] > FLAT:
                     writer.writerow([text(row[name]) for name in CHOICES] + [text(value) for value in values]
                                     + [text(labels.get(name, "")) for name in LABELS])

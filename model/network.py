@@ -7,6 +7,7 @@ from scipy.optimize import minimize
 BEND = 0.02        # errors of the score count by their square below this, by their size above
 RELATIVE = 0.0003  # share of the squared error of the score's logarithm: keeps small scores in order
 RISE = 1000.0      # share of the squared rises of the score along a jitter sequence
+ALLOWED = 0.005    # at most so far may the score rise with the measured accuracy: slivers can profit from being moved
 
 
 class Network:
@@ -47,7 +48,7 @@ class Loss:
         self.importance = (importance / importance.sum())[:, None]
         self.last, self.length = sequences
         measured = y[len(y) - self.last:].reshape(-1, self.length)
-        self.allowed = np.maximum(np.diff(measured, axis=1), 0)  # slivers can profit from being moved
+        self.allowed = np.clip(np.diff(measured, axis=1), 0, ALLOWED)
 
     def of_scores(self, score):
         error, ratio = score - self.y, np.log(score / self.y)

@@ -11,6 +11,7 @@ here=$(cd "$(dirname "$0")" && pwd)
 program=${2:-$here/../build/bin/meshquality}
 export OMP_NUM_THREADS=1
 python3 "$here/make_meshes.py" "$folder"
+python3 "$here/make_labels.py" "$folder"
 python3 "$here/field_solves.py" "$folder"
 python3 "$here/make_table.py" "$folder" "$here/data/meshes.csv" "$program"
 python3 "$here/make_jitter.py" "$folder" "$here/data/meshes.csv" "$here/data/jitter.csv"

@@ -9,10 +9,12 @@ from onnx import TensorProto, helper, numpy_helper
 from scipy.linalg import block_diag
 
 from tetrahedron_metrics import FEATURES
-from transform import USED
+from transform import ROBUST, USED
 
 INPUT, OUTPUT = "onnx::Gemm_0", "19"
-FALL = 4.0  # the score falls by exp(-4 d) at a distance d, in logarithms summed over features, outside the range
+# The score falls by exp(-4 d) at a distance d, in logarithms, outside the range of a feature; by less where one nearly flat
+# element of thousands takes the mean out of it.
+FALL, FALL_OF_OTHERS = 4.0, 0.05
 
 ANY_SIZE = 1000.0  # bound on the logarithms of volume and Jacobian, which no float reaches: any size is inside
 
@@ -54,7 +56,7 @@ def constants(networks, mean, mixing, lowest, highest):
     return {
         "lowest": of_all_features(lowest[:, None], -ANY_SIZE).T,
         "highest": of_all_features(highest[:, None], ANY_SIZE).T,
-        "fall": np.full((len(FEATURES), 1), -FALL),
+        "fall": np.array([[-FALL if name in ROBUST else -FALL_OF_OTHERS] for name in FEATURES]),
         "weights1": of_all_features(first, 0.0), "biases1": (np.hstack(parts[1]) - mean @ first)[None],
         "weights2": block_diag(*parts[2]), "biases2": np.hstack(parts[3])[None],
         "weights3": np.vstack(parts[4]) / len(networks), "direct": of_all_features(direct, 0.0),

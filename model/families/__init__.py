@@ -4,9 +4,15 @@
 
 The text uses the OpenCASCADE kernel; every length is of order one. A family's name is its function's name.
 """
-from . import drilled, gapped, organic, solids, swept, thin
+from . import drilled, fitted, gapped, machined, organic, solids, swept, thin
 
-MODULES = [solids, drilled, thin, gapped, swept, organic]
-FAMILIES = {name: function for module in MODULES for name, function in vars(module).items()
+
+def _families_of(*modules):
+    return {name: function for module in modules for name, function in vars(module).items()
             if callable(function) and getattr(function, "__module__", "") == module.__name__
             and not name.startswith("_")}
+
+
+# In the order in which they were added: meshes are numbered block by block, so that those made before stay as they are.
+BLOCKS = [_families_of(solids, drilled, thin, gapped, swept, organic), _families_of(machined), _families_of(fitted)]
+FAMILIES = {name: function for block in BLOCKS for name, function in block.items()}
