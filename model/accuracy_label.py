@@ -11,8 +11,8 @@ and over H of the squared length is, exactly,
 
 So no fields are drawn: the root-mean-square error over all of them is a closed form (check_label.py draws some).
 
-The score predicts how many times that error, in the geometric mean over the elements, exceeds that of regular tetrahedra
-of the same volumes: by so much their edges are too long, because the error grows with the edge length.
+The score predicts how many times that error, in the geometric mean over the elements, exceeds that of regular
+tetrahedra of the same volumes: by so much their edges are too long, because the error grows with the edge length.
 """
 import numpy as np
 

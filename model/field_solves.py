@@ -3,11 +3,11 @@
 # SPDX-License-Identifier: BSD-3-Clause
 """The second labels, from real solves: field_solves.py FOLDER. Goes on where it was stopped.
 
-Unseen families, every second run of Gmsh, meshes of up to 8,000 elements: the Poisson equation and linear elasticity (Poisson ratio 0.3)
-are solved with linear elements for quadratic solutions given on the boundary. The error is a quadratic form of the
-solution's Hessian, so its sum over an orthonormal basis of symmetric Hessians (6, and 18 for the vector field) is the
-mean over all random ones. The labels hold the errors of the solve against the interpolation errors of regular
-tetrahedra in the same norm, in the ways of accuracy_label.compare().
+Unseen families, every second run of Gmsh, meshes of up to 8,000 elements: the Poisson equation and linear elasticity
+(Poisson ratio 0.3) are solved with linear elements for quadratic solutions given on the boundary. The error is a
+quadratic form of the solution's Hessian, so its sum over an orthonormal basis of symmetric Hessians (6, and 18 for
+the vector field) is the mean over all random ones. The labels hold the errors of the solve against the interpolation
+errors of regular tetrahedra in the same norm, in the ways of accuracy_label.compare().
 """
 import json
 import pathlib

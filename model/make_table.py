@@ -3,7 +3,8 @@
 # SPDX-License-Identifier: BSD-3-Clause
 """Joins labels and features: make_table.py FOLDER TABLE.csv [MESHQUALITY].
 
-FOLDER is what make_meshes.py and make_labels.py filled (and field_solves.py, for the second labels). The features come from the program
+FOLDER is what make_meshes.py and make_labels.py filled (and field_solves.py, for the second labels).
+The features come from the program
 named last; without it they come from tetrahedron_metrics.py.
 """
 import csv

@@ -12,8 +12,8 @@ from tetrahedron_metrics import FEATURES
 from transform import ROBUST, USED
 
 INPUT, OUTPUT = "onnx::Gemm_0", "19"
-# The score falls by exp(-4 d) at a distance d, in logarithms, outside the range of a feature; by less where one nearly flat
-# element of thousands takes the mean out of it.
+# The score falls by exp(-4 d) at a distance d, in logarithms, outside the range of a feature; by less where one nearly
+# flat element of thousands takes the mean out of it.
 FALL, FALL_OF_OTHERS = 4.0, 0.05
 
 ANY_SIZE = 1000.0  # bound on the logarithms of volume and Jacobian, which no float reaches: any size is inside

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 DataManager contributors
 # SPDX-License-Identifier: BSD-3-Clause
-"""Fittings, frames and shafts: made for the final test only, after the meaning and the training were settled on others."""
+"""Fittings, frames and shafts: made for the final test only, after meaning and training were settled on others."""
 import math
 
 _JOIN = "BooleanUnion{{ Volume{{1}}; Delete; }}{{ Volume{{{0}}}; Delete; }}\n"
@@ -33,7 +33,8 @@ def stepped_shaft(r):
 def gusset(r):
     t, w = r.uniform(0.04, 0.12), r.uniform(0.3, 0.8)
     return (f"Box(1) = {{0, 0, 0, 0.8, {w}, {t}}};\nBox(2) = {{0, 0, 0, {t}, {w}, 0.7}};\n"
-            f"Wedge(3) = {{0, 0, 0, 0.6, {t}, 0.5, 0}};\nRotate {{ {{1, 0, 0}}, {{0, 0, 0}}, Pi / 2 }} {{ Volume{{3}}; }}\n"
+            f"Wedge(3) = {{0, 0, 0, 0.6, {t}, 0.5, 0}};\n"
+            "Rotate { {1, 0, 0}, {0, 0, 0}, Pi / 2 } { Volume{3}; }\n"
             f"Translate {{0, {w / 2}, 0}} {{ Volume{{3}}; }}\n" + _JOIN.format("2:3"), t * (1.5 * w + 0.1))
 
 
@@ -61,14 +62,16 @@ def louvre(r):
 
 def hook(r):
     k, a = r.uniform(0.06, 0.14), r.uniform(3, 4.8)
-    return (f"Torus(1) = {{0, 0, 0, 0.35, {k}, {a}}};\nCylinder(2) = {{0.35, 0, 0, 0, {-r.uniform(0.3, 0.9)}, 0, {k}}};\n"
+    return (f"Torus(1) = {{0, 0, 0, 0.35, {k}, {a}}};\n"
+            f"Cylinder(2) = {{0.35, 0, 0, 0, {-r.uniform(0.3, 0.9)}, 0, {k}}};\n"
             + _JOIN.format(2), math.pi * k * k * (0.35 * a + 0.6))
 
 
 def windowed_ball(r):
     k, w = r.uniform(0.36, 0.46), r.uniform(0.1, 0.25, 3)
-    return (f"Sphere(1) = {{0, 0, 0, 0.5}};\nSphere(2) = {{0, 0, 0, {k}}};\nCylinder(3) = {{0, 0, -1, 0, 0, 2, {w[0]}}};\n"
-            f"Cylinder(4) = {{0, -1, 0, 0, 2, 0, {w[1]}}};\nCylinder(5) = {{-1, 0, 0, 2, 0, 0, {w[2]}}};\n"
+    return (f"Sphere(1) = {{0, 0, 0, 0.5}};\nSphere(2) = {{0, 0, 0, {k}}};\n"
+            f"Cylinder(3) = {{0, 0, -1, 0, 0, 2, {w[0]}}};\nCylinder(4) = {{0, -1, 0, 0, 2, 0, {w[1]}}};\n"
+            f"Cylinder(5) = {{-1, 0, 0, 2, 0, 0, {w[2]}}};\n"
             + _CUT.format("2:5"), 3.4 * (0.125 - k ** 3))
 
 
@@ -82,6 +85,6 @@ def pipe_tee(r):
 
 def star_prism(r):
     n, inner = r.integers(4, 9), r.uniform(0.2, 0.42)
-    corners = [((0.5 if i % 2 else inner) * math.cos(math.pi * i / n), (0.5 if i % 2 else inner) * math.sin(math.pi * i / n))
-               for i in range(2 * n)]
+    sizes = [inner, 0.5] * n
+    corners = [(k * math.cos(math.pi * i / n), k * math.sin(math.pi * i / n)) for i, k in enumerate(sizes)]
     return _prism(corners, r.uniform(0.1, 1.0))

@@ -58,7 +58,8 @@ def perforated_sheet(r):
 def chain_link(r):
     k, s = r.uniform(0.06, 0.14), r.uniform(0.2, 0.6)
     return (f"Torus(1) = {{0, 0, 0, 0.3, {k}, Pi}};\nTorus(2) = {{0, 0, 0, 0.3, {k}, Pi}};\n"
-            f"Rotate {{ {{0, 0, 1}}, {{0, 0, 0}}, Pi }} {{ Volume{{2}}; }}\nTranslate {{0, {-s}, 0}} {{ Volume{{2}}; }}\n"
+            f"Rotate {{ {{0, 0, 1}}, {{0, 0, 0}}, Pi }} {{ Volume{{2}}; }}\n"
+            f"Translate {{0, {-s}, 0}} {{ Volume{{2}}; }}\n"
             f"Cylinder(3) = {{0.3, {-s}, 0, 0, {s}, 0, {k}}};\nCylinder(4) = {{-0.3, {-s}, 0, 0, {s}, 0, {k}}};\n"
             + _JOIN.format("2:4"), math.pi * k * k * (0.6 * math.pi + 2 * s))
 
