@@ -36,7 +36,8 @@ function(datamanager_install_link path target component)
 endfunction()
 
 # datamanager_install_program(TARGET [COMPONENT NAME]): a program with its manual page, docs/man/TARGET.1, and its shell
-# completion, completions/TARGET.bash; both have to be there.
+# completion, completions/TARGET.bash; both have to be there. On a Debian system it is started by
+# packaging/debian/TARGET.launcher, if that is there, otherwise by a link.
 function(datamanager_install_program target)
   if(NOT DATAMANAGER_INSTALL)
     return()
@@ -48,8 +49,14 @@ function(datamanager_install_program target)
   install(TARGETS ${target} RUNTIME DESTINATION "${DATAMANAGER_INSTALL_PROGRAM_DIR}" COMPONENT ${program_COMPONENT})
   set(manual "${PROJECT_SOURCE_DIR}/docs/man/${target}.1")
   if(DATAMANAGER_DEBIAN_PACKAGES)
-    datamanager_install_link("${CMAKE_INSTALL_BINDIR}/${target}"
-      "../${DATAMANAGER_INSTALL_PROGRAM_DIR}/${target}" ${program_COMPONENT})
+    set(launcher "${PROJECT_SOURCE_DIR}/packaging/debian/${target}.launcher")
+    if(EXISTS "${launcher}")
+      install(PROGRAMS "${launcher}" DESTINATION ${CMAKE_INSTALL_BINDIR} RENAME ${target}
+        COMPONENT ${program_COMPONENT})
+    else()
+      datamanager_install_link("${CMAKE_INSTALL_BINDIR}/${target}"
+        "../${DATAMANAGER_INSTALL_PROGRAM_DIR}/${target}" ${program_COMPONENT})
+    endif()
     datamanager_compress("${manual}" manual)
   endif()
   install(FILES "${manual}" DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ${program_COMPONENT})

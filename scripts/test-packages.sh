@@ -18,6 +18,7 @@ if [ -z "$tree" ]; then
   . /etc/os-release
   archive=$(apt-get indextargets --format '$(REPO_URI)' | grep -E '/debian/?$' | head -n 1)
   made=$(mktemp -d)
+  chmod 755 "$made"
   tree=$made
   debootstrap --variant=minbase "$VERSION_CODENAME" "$tree" "$archive" >"$tree.log" 2>&1 || { cat "$tree.log"; exit 1; }
 fi
@@ -102,11 +103,13 @@ for consumer in installed pkgconfig; do
   echo "built on the development package: $consumer"
 done
 
-# The desktop program opens its window and stays.
+# The desktop program opens its window and stays. It lays the mesh where it is scored, in the user's own application.
 mapfile -t desktop < <(cd "$work" && ls datamanager-workbench_*.deb 2>/dev/null)
 if [ "${#desktop[@]}" -gt 0 ]; then
   install "${desktop[@]/#/$inside/}"
-  [ "$(exit_code as_user timeout 10 workbench -platform offscreen)" -eq 124 ] || { cat "$work/output"; fail "workbench"; }
+  code=$(exit_code as_user timeout 20 env XDG_DATA_HOME="$inside/user/data" workbench -platform offscreen "$mesh")
+  [ "$code" -eq 124 ] || { cat "$work/output"; fail "workbench"; }
+  cmp "$tree$mesh" "$work/user/data/datamanager/application/temp/mesh.msh" || { cat "$work/output"; fail "workbench's mesh"; }
 fi
 
 # Nothing stays behind.
