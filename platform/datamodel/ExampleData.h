@@ -29,7 +29,7 @@ class DATAMODEL_EXPORT ExampleData : public QObject
 public:
     /// An example without any text.
     Q_INVOKABLE ExampleData() = default;
-    ~ExampleData() override = default;
+    ~ExampleData() override;
 
     QString chineseTitle;       ///< shown when the interface language is "Chinese"
     QString englishTitle;       ///< shown when the interface language is not "Chinese"

@@ -10,8 +10,11 @@
 namespace DataModel {
 
 namespace {
+// Runs in a static link, too: the destructor below is out of line, so that whoever uses the class links this file.
 [[maybe_unused]] const bool isRegistered = QJsonHelper::registerRecordType<MaterialData>();
 }
+
+MaterialData::~MaterialData() = default;
 
 MaterialData::MaterialData(int newID, QString newChineseName, QString newEnglishName,
                            QSharedPointer<MaterialPropertyData> p1, QSharedPointer<MaterialPropertyData> p2,

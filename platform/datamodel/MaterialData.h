@@ -35,7 +35,7 @@ public:
     MaterialData(int id, QString chineseName, QString englishName, QSharedPointer<MaterialPropertyData> p1,
                  QSharedPointer<MaterialPropertyData> p2, QSharedPointer<MaterialPropertyData> p3,
                  QSharedPointer<MaterialPropertyData> p4, QSharedPointer<MaterialPropertyData> p5);
-    ~MaterialData() override = default;
+    ~MaterialData() override;
 
     /// Replaces everything but `isDeleted`. The property records are shared, not copied.
     void update(int id, QString chineseName, QString englishName, QSharedPointer<MaterialPropertyData> p1,

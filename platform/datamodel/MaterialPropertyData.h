@@ -25,7 +25,7 @@ class DATAMODEL_EXPORT MaterialPropertyData : public QObject
 public:
     /// An unnamed property without components: kind 0, flag false.
     Q_INVOKABLE MaterialPropertyData() = default;
-    ~MaterialPropertyData() override = default;
+    ~MaterialPropertyData() override;
 
     QString label;            ///< what the property is, for example "relative permittivity"
     int kind = 0;             ///< the application's own number for the kind of property
