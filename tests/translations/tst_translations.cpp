@@ -310,7 +310,7 @@ void TestTranslations::speaksChinese_data()
                                          << text("\n  777 个节点，3156 个四面体（0 个翻转，0 个扁平）\n") << QString()
                                          << 0;
     QTest::newRow("meshquality, score") << meshquality << QStringList{text("report"), slivers}
-                                        << text("\n  评分 0.27891（0 最差，1 最好）\n") << QString() << 0;
+                                        << text("\n  评分 0.370896（0 最差，1 最好）\n") << QString() << 0;
     QTest::newRow("meshquality, compare")
         << meshquality << QStringList{text("compare"), slivers, slivers}
         << text("\n  翻转") + QString(36, QLatin1Char(' ')) + text("0            0  相同\n") << QString() << 0;
