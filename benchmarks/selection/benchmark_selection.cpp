@@ -7,9 +7,9 @@
 // work is done by one thread, so its processor time is what an idle machine's clock would show; each figure is the best
 // of several, since other programs on the machine only add to it.
 
-#include <PairByPairStore.h>
 #include <datamanager/selection/SelectedDataManager.h>
 #include <selection/AllocationCount.h>
+#include <selection/LiteralStore.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -166,7 +166,7 @@ void printRow(int count, int rounds, double& scanEstimate)
     std::printf("%8d %8.3f %8.3f %8.3f %5.2f %8.3f ", count, 1e3 * fresh.add, 1e3 * fresh.remove, 1e3 * fresh.total(),
                 fresh.total() / half, 1e3 * pooled);
     if (scanEstimate <= scanLimit) {
-        const double scan = pooledRound<PairByPairStore>(work, scanEstimate < 1 ? 3 : 1).total();
+        const double scan = pooledRound<LiteralStore>(work, scanEstimate < 1 ? 3 : 1).total();
         std::printf("%9.1f %8.1f ", 1e3 * scan, scan / pooled);
         scanEstimate = 6 * scan;
     } else {
@@ -193,7 +193,7 @@ int main()
     ::mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
     ::mallopt(M_MMAP_THRESHOLD, std::numeric_limits<int>::max());
     const Workload compared(20000);
-    const bool isSame = logOf<SelectedDataManager>(compared) == logOf<PairByPairStore>(compared);
+    const bool isSame = logOf<SelectedDataManager>(compared) == logOf<LiteralStore>(compared);
     std::printf("signals of 20000 pairs added and removed, against one scan a pair: %s\n\n"
                 "Milliseconds. 'x 2': 'both' against half as many pairs. 'pooled': added and removed again, shuffled.\n"
                 "'scan': the same with one scan a pair, up to about %.0f s. 'heap': allocations a click.\n\n",
