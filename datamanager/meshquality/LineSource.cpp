@@ -13,8 +13,10 @@ constexpr std::size_t pieceSize = std::size_t(1) << 18;
 // What fits into the buffer as it is at first need not be cut.
 constexpr std::size_t longestUncut = pieceSize / 2;
 
+} // namespace
+
 /// The section markers in a text that comes in pieces.
-class MarkerSearch
+class LineSource::MarkerSearch
 {
 public:
     /// A marker that lies across two pieces is found when the second begins with this many bytes of the first.
@@ -47,8 +49,6 @@ public:
 private:
     std::array<bool, sectionMarkers.size()> m_isFound{};
 };
-
-} // namespace
 
 LineSource::LineSource(const QString& path) : m_file(path), m_buffer(pieceSize)
 {
@@ -88,22 +88,10 @@ void LineSource::acceptAbridged()
     const std::size_t kept = static_cast<std::size_t>(m_end - m_position);
     char* const head = m_buffer.data();
     std::memmove(head, m_position, kept);
-    MarkerSearch markers;
-    markers.take(head + headSize - MarkerSearch::overlap, head + kept);
-    char* const rest = head + headSize + MarkerSearch::longestResult;
-    char* const fresh = rest + MarkerSearch::overlap;
     m_end = head + kept;
-    const char* newline = nullptr;
-    while (newline == nullptr) {
-        std::memmove(rest, m_end - MarkerSearch::overlap, MarkerSearch::overlap);
-        const std::size_t count = readInto(fresh);
-        m_end = fresh + count;
-        newline = static_cast<const char*>(std::memchr(fresh, '\n', count));
-        markers.take(rest, newline == nullptr ? m_end : newline);
-        if (count == 0) {
-            break;
-        }
-    }
+    MarkerSearch markers;
+    markers.take(head + headSize - MarkerSearch::overlap, m_end);
+    const char* const newline = passRest(head + headSize + MarkerSearch::longestResult, markers);
     const QByteArray found = markers.found();
     const std::size_t size = headSize + static_cast<std::size_t>(found.size());
     // Without a newline the file is at its end.
@@ -114,6 +102,23 @@ void LineSource::acceptAbridged()
     m_position = line;
     m_dollar = nullptr;
     accept(newline == nullptr ? m_end : newline + 1);
+}
+
+/// Reads to the end of the line, piece by piece to the same place, each behind the end of the one before. Where the
+/// line ends, or null at the end of the file.
+const char* LineSource::passRest(char* place, MarkerSearch& markers)
+{
+    char* const fresh = place + MarkerSearch::overlap;
+    const char* newline = nullptr;
+    std::size_t count = 1;
+    while (newline == nullptr && count > 0) {
+        std::memmove(place, m_end - MarkerSearch::overlap, MarkerSearch::overlap);
+        count = readInto(fresh);
+        m_end = fresh + count;
+        newline = static_cast<const char*>(std::memchr(fresh, '\n', count));
+        markers.take(place, newline == nullptr ? m_end : newline);
+    }
+    return newline;
 }
 
 bool LineSource::readPiece()

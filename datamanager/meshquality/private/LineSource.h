@@ -73,6 +73,8 @@ public:
     }
 
 private:
+    class MarkerSearch;
+
     void accept(const char* lineEnd)
     {
         m_line = {m_position, lineEnd};
@@ -82,6 +84,7 @@ private:
     bool nextAcrossPieces();
     bool readPiece();
     void acceptAbridged();
+    const char* passRest(char* place, MarkerSearch& markers);
     std::size_t readInto(char* place);
 
     QFile m_file;
