@@ -5,14 +5,20 @@
 
 #include <datamanager/meshquality/private/LargePages.h>
 
+#include <new>
+
 namespace DataManager {
 
 void MeshTables::expect(qint64 fileSize)
 {
     // Meshes of 0.1 to 2 million tetrahedra have 250 to 310 bytes of file for every node and 45 to 55 for every
     // tetrahedron. What is not filled takes no memory.
-    reserveInLargePages(nodes, static_cast<std::size_t>(fileSize / 200));
-    reserveInLargePages(tetrahedra, static_cast<std::size_t>(fileSize / 36));
+    try {
+        reserveInLargePages(nodes, static_cast<std::size_t>(fileSize / 200));
+        reserveInLargePages(tetrahedra, static_cast<std::size_t>(fileSize / 36));
+    } catch (const std::bad_alloc&) {
+        // Less may be enough.
+    }
 }
 
 std::vector<std::size_t> MeshTables::removeUnconnected()
