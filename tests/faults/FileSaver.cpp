@@ -10,8 +10,8 @@
 //   filesaver memory KIND               loads, and prints by how many bytes the most memory used grew
 // KIND is software, project, example or coordinates, or plain for a file without any record; mesh can only be loaded.
 // FILESAVER_FILE_SIZE limits the size of files while saving, FILESAVER_PROJECT names another project directory, and
-// FILESAVER_MEMORY limits the address space, beyond what is in use, while loading. With FILESAVER_NOBODY the process
-// gives up root's rights.
+// FILESAVER_MEMORY limits the address space, beyond what is in use, while loading or saving. With FILESAVER_NOBODY the
+// process gives up root's rights.
 
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
 #include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
@@ -196,11 +196,34 @@ void limitFileSize()
     }
 }
 
+/// A number of the process's status, in bytes.
+qint64 statusOf(const QByteArray& name)
+{
+    QFile file(QStringLiteral("/proc/self/status"));
+    const bool isOpen = file.open(QIODevice::ReadOnly);
+    for (const QByteArray& line : (isOpen ? file.readAll() : QByteArray()).split('\n')) {
+        if (line.startsWith(name + ':')) {
+            return line.mid(name.size() + 1).simplified().split(' ').first().toLongLong() * 1024;
+        }
+    }
+    return -1;
+}
+
+void limitMemory()
+{
+    if (qEnvironmentVariableIsSet("FILESAVER_MEMORY")) {
+        const auto size = rlim_t(statusOf("VmSize") + qEnvironmentVariableIntValue("FILESAVER_MEMORY"));
+        const rlimit limit = {size, size};
+        ::setrlimit(RLIMIT_AS, &limit);
+    }
+}
+
 void save(const Kind& kind, const QString& letter, int length)
 {
     const QString text = letter.repeated(length);
     kind.open();
     limitFileSize();
+    limitMemory();
     // Marks in a trace of system calls.
     QFile::exists(QStringLiteral("/save-begins-here"));
     isSaving = true;
@@ -226,28 +249,6 @@ QString description(const QString& text)
     }
     return text.count(text.at(0)) == text.size() ? QStringLiteral("%1 %2").arg(text.at(0)).arg(text.size())
                                                  : QStringLiteral("mixed");
-}
-
-/// A number of the process's status, in bytes.
-qint64 statusOf(const QByteArray& name)
-{
-    QFile file(QStringLiteral("/proc/self/status"));
-    const bool isOpen = file.open(QIODevice::ReadOnly);
-    for (const QByteArray& line : (isOpen ? file.readAll() : QByteArray()).split('\n')) {
-        if (line.startsWith(name + ':')) {
-            return line.mid(name.size() + 1).simplified().split(' ').first().toLongLong() * 1024;
-        }
-    }
-    return -1;
-}
-
-void limitMemory()
-{
-    if (qEnvironmentVariableIsSet("FILESAVER_MEMORY")) {
-        const auto size = rlim_t(statusOf("VmSize") + qEnvironmentVariableIntValue("FILESAVER_MEMORY"));
-        const rlimit limit = {size, size};
-        ::setrlimit(RLIMIT_AS, &limit);
-    }
 }
 
 } // namespace

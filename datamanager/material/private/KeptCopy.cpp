@@ -31,10 +31,22 @@ bool isTaken(const QString& path)
     return file.exists() || file.isSymLink();
 }
 
+/// Compares piece by piece, so that a file that just fits into the memory is not there twice.
 bool holds(const QString& path, const QByteArray& bytes)
 {
-    QByteArray content;
-    return QFileInfo(path).size() == bytes.size() && GlobalHelper::readFile(path, content) && content == bytes;
+    constexpr int pieceSize = 65536;
+    const QFileInfo information(path);
+    QFile file(path);
+    // A pipe or a device would block or never end.
+    if (!information.isFile() || information.size() != bytes.size() || !file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    for (int place = 0; place < bytes.size(); place += pieceSize) {
+        if (file.read(pieceSize) != bytes.mid(place, pieceSize)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 /// Without the permissions of the present user, which for root are everybody's.
