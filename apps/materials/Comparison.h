@@ -4,7 +4,9 @@
 #pragma once
 
 #include <console/Message.h>
-#include <materials/Library.h>
+#include <materials/Material.h>
+
+#include <QList>
 
 namespace Materials {
 

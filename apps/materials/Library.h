@@ -4,18 +4,12 @@
 #pragma once
 
 #include <materials/LibraryName.h>
+#include <materials/Material.h>
 
 #include <QList>
-#include <QSharedPointer>
 #include <QString>
 
-namespace DataModel {
-class MaterialData;
-}
-
 namespace Materials {
-
-using Material = QSharedPointer<DataModel::MaterialData>;
 
 /// Opens a library through the material manager. A text says why that is impossible, with the place; empty on success.
 /// `mayBeMissing` opens an empty library where there is no file.

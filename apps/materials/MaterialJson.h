@@ -3,10 +3,11 @@
 
 #pragma once
 
-#include <materials/Library.h>
+#include <materials/Material.h>
 
 #include <QByteArray>
 #include <QJsonObject>
+#include <QList>
 
 /// Materials as JSON, in the form of the library files.
 namespace Materials {
