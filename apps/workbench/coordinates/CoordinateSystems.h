@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#pragma once
+
+#include <workbench/coordinates/CoordinateDefinition.h>
+#include <workbench/coordinates/CoordinateTree.h>
+
+#include <QList>
+#include <QObject>
+
+namespace Workbench {
+
+class CoordinateAxes;
+
+/// The coordinate systems as the workbench edits them. Every change goes through the library's registry, and is told by
+/// the registry's own signals: `signal_dataDeleted` before systems go, `signal_dataChanged` after every change made
+/// here. At that moment every system has its axes actor, matrix and quaternion.
+class CoordinateSystems : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Created by the first call, which gives the registry the global system (ID 0) when it is empty. Call it before
+    /// a project is read: without the global system the registry would not keep the first system of the file.
+    static CoordinateSystems* instance();
+
+    /// How the registered systems hang together, in the registry's order.
+    static CoordinateTree tree();
+    /// The system's own level; defaults when there is no such system.
+    static CoordinateDefinition definition(int id);
+
+    /// Adds a system relative to `basicID` and returns its identifier, one above the highest; 0 when there is no such
+    /// basic system.
+    int create(int basicID, const CoordinateDefinition& definition);
+    /// Changes a system and with it all systems below. Nothing happens for the global system and unknown ones.
+    void change(int id, const CoordinateDefinition& definition);
+    /// Removes systems with all systems below them, except the global one. When the current system goes, the global
+    /// one becomes current.
+    void remove(const QList<int>& ids);
+    void setCurrent(int id);
+
+    /// Whether the axes of all systems, or those of one, are to be seen. Axes are seen when both say so.
+    bool areAxesShown() const;
+    void showAxes(bool isShown);
+    bool areAxesShown(int id) const;
+    void showAxes(int id, bool isShown);
+
+    /// Replaces all systems but the global one by those of the project's working directory.
+    void loadProject();
+    /// Removes all systems but the global one. The file stays as it is.
+    void clearProject();
+
+private:
+    CoordinateSystems();
+
+    CoordinateAxes* m_axes;
+};
+
+} // namespace Workbench

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <workbench/material/DeleteQuestion.h>
+
+#include <workbench/geometry/GeometryManager.h>
+#include <workbench/material/MaterialLibraries.h>
+#include <workbench/material/MaterialName.h>
+
+#include <datamodel/MaterialData.h>
+
+#include <QMessageBox>
+
+namespace Workbench {
+
+namespace {
+
+/// The names of the volumes that use a project material.
+QStringList usesOf(int id)
+{
+    QStringList uses;
+    for (const int volume : GeometryManager::instance()->findComponentsOfMaterial(id)) {
+        uses.append(GeometryManager::instance()->getComponentName(volume));
+    }
+    return uses;
+}
+
+QString useText(BaseModule::MaterialLibType type, const DataModel::MaterialData& material)
+{
+    if (type == BaseModule::SoftwareLib) {
+        return DeleteQuestion::tr("%1: projects keep the copies that they have of it.").arg(materialTitle(material));
+    }
+    const QStringList uses = usesOf(material.id);
+    return uses.isEmpty() ? DeleteQuestion::tr("%1: no volume uses it.").arg(materialTitle(material))
+                          : DeleteQuestion::tr("%1 is used by: %2. They become free space.")
+                                .arg(materialTitle(material), uses.join(QStringLiteral(", ")));
+}
+
+} // namespace
+
+void DeleteQuestion::openFor(BaseModule::MaterialLibType type, const QList<int>& ids, QWidget* parent)
+{
+    QStringList uses;
+    for (const int id : ids) {
+        if (const Materials::Material material = MaterialLibraries::material(type, id)) {
+            uses.append(useText(type, *material));
+        }
+    }
+    if (uses.isEmpty()) {
+        return;
+    }
+    auto* const question = new QMessageBox(QMessageBox::Question, libraryTitle(type), tr("Delete these materials?"),
+                                           QMessageBox::Yes | QMessageBox::Cancel, parent);
+    question->setObjectName(QStringLiteral("deleteQuestion"));
+    question->setInformativeText(uses.join(QLatin1Char('\n')));
+    question->setDefaultButton(QMessageBox::Cancel);
+    question->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(question, &QMessageBox::finished, [type, ids](int answer) {
+        if (answer == QMessageBox::Yes) {
+            MaterialLibraries::instance()->remove(type, ids);
+        }
+    });
+    question->open();
+}
+
+} // namespace Workbench

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#pragma once
+
+#include <basemodule/MaterialLibType.h>
+#include <materials/Comparison.h>
+
+#include <QDialog>
+
+class QLabel;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace Workbench {
+
+/// Compares materials of one library with the other one, and then copies the chosen ones: new materials under new
+/// identifiers, changed ones onto the material that has their name. What differs stands below each changed material.
+class ImportDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Shows a dialog that destroys itself when it is closed. Without identifiers it compares the whole library.
+    static void openFor(BaseModule::MaterialLibType from, const QList<int>& ids, QWidget* parent);
+
+    void accept() override;
+
+private:
+    ImportDialog(BaseModule::MaterialLibType from, const QList<int>& ids, QWidget* parent);
+
+    void compare(const QList<int>& ids);
+    void addComparison(const Materials::Comparison& comparison);
+    void showCounts();
+    void layOut();
+
+    BaseModule::MaterialLibType m_from;
+    QList<Materials::Comparison> m_comparisons;
+    QTreeWidget* m_list;
+    QLabel* m_counts;
+};
+
+} // namespace Workbench

@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <workbench/material/MaterialDialog.h>
+
+#include <materials/MaterialMembers.h>
+#include <workbench/material/MaterialLibraries.h>
+#include <workbench/material/MaterialName.h>
+#include <workbench/material/NumberField.h>
+#include <workbench/material/PropertyEditor.h>
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QTabWidget>
+
+namespace Workbench {
+
+void MaterialDialog::openFor(BaseModule::MaterialLibType type, int id, QWidget* parent)
+{
+    const Materials::Material material = MaterialLibraries::material(type, id);
+    if (id != 0 && material.isNull()) {
+        return;
+    }
+    auto* const dialog = new MaterialDialog(type, material, parent);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+MaterialDialog::MaterialDialog(BaseModule::MaterialLibType type, const Materials::Material& material, QWidget* parent)
+    : QDialog(parent), m_type(type), m_id(material.isNull() ? 0 : material->id), m_englishName(new QLineEdit(this)),
+      m_chineseName(new QLineEdit(this)), m_tabs(new QTabWidget(this)), m_refusal(new QLabel(this))
+{
+    setObjectName(QStringLiteral("materialDialog"));
+    m_englishName->setObjectName(QStringLiteral("englishName"));
+    m_chineseName->setObjectName(QStringLiteral("chineseName"));
+    m_tabs->setObjectName(QStringLiteral("properties"));
+    m_refusal->setObjectName(QStringLiteral("refusal"));
+    setWindowTitle(m_id == 0 ? tr("New material - %1").arg(libraryTitle(type))
+                             : tr("Material %1 - %2").arg(m_id).arg(libraryTitle(type)));
+    if (!material.isNull()) {
+        m_englishName->setText(material->englishName);
+        m_chineseName->setText(material->chineseName);
+    }
+    createEditors(material);
+    layOut();
+}
+
+void MaterialDialog::createEditors(const Materials::Material& material)
+{
+    for (int i = 0; i < Materials::propertyMembers.size(); ++i) {
+        const auto property =
+            material.isNull() ? PropertyEditor::Property() : (*material).*Materials::propertyMembers.at(i);
+        m_editors.append(new PropertyEditor(property, this));
+        m_editors.last()->setObjectName(QStringLiteral("property%1").arg(i + 1));
+        m_tabs->addTab(m_editors.last(), tr("Property %1").arg(i + 1));
+        if (!property.isNull()) {
+            m_tabs->setTabToolTip(i, property->label);
+        }
+    }
+}
+
+void MaterialDialog::layOut()
+{
+    auto* const names = new QFormLayout;
+    names->addRow(tr("English name"), m_englishName);
+    names->addRow(tr("Chinese name"), m_chineseName);
+    m_refusal->setWordWrap(true);
+    m_refusal->setStyleSheet(QStringLiteral("color: #c00000;"));
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    connect(buttons, &QDialogButtonBox::accepted, this, &MaterialDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &MaterialDialog::reject);
+    auto* const whole = new QVBoxLayout(this);
+    whole->addLayout(names);
+    whole->addWidget(m_tabs);
+    whole->addWidget(m_refusal);
+    whole->addWidget(buttons);
+}
+
+void MaterialDialog::accept()
+{
+    if (check()) {
+        apply();
+        QDialog::accept();
+    }
+}
+
+bool MaterialDialog::check()
+{
+    for (QLineEdit* const field : {m_englishName, m_chineseName}) {
+        const QString reason = materialNameRefusal(m_type, field->text(), m_id);
+        if (!reason.isEmpty()) {
+            refuse(reason, field);
+            return false;
+        }
+    }
+    for (int i = 0; i < m_editors.size(); ++i) {
+        if (NumberField* const field = m_editors.at(i)->refusedField()) {
+            m_tabs->setCurrentIndex(i);
+            refuse(tr("Property %1, component %2: %3").arg(i + 1).arg(field->objectName(), field->refusal()), field);
+            return false;
+        }
+    }
+    return true;
+}
+
+void MaterialDialog::refuse(const QString& reason, QWidget* field)
+{
+    m_refusal->setText(reason);
+    field->setFocus();
+}
+
+void MaterialDialog::apply()
+{
+    DataModel::MaterialData content;
+    content.englishName = m_englishName->text();
+    content.chineseName = m_chineseName->text();
+    for (int i = 0; i < m_editors.size(); ++i) {
+        content.*Materials::propertyMembers.at(i) = m_editors.at(i)->property();
+    }
+    if (m_id == 0) {
+        MaterialLibraries::instance()->create(m_type, content);
+    } else {
+        MaterialLibraries::instance()->update(m_type, m_id, content);
+    }
+}
+
+} // namespace Workbench
