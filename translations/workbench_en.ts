@@ -2,6 +2,188 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>Workbench::AngleFields</name>
+    <message>
+        <source>degrees</source>
+        <translation>degrees</translation>
+    </message>
+    <message>
+        <source>radians</source>
+        <translation>radians</translation>
+    </message>
+    <message>
+        <source>Rotation about x, y, z, in</source>
+        <translation>Rotation about x, y, z, in</translation>
+    </message>
+    <message>
+        <source>Right-handed, about the fixed axes of the basic system (extrinsic): first about x, then about y, then about z.</source>
+        <translation>Right-handed, about the fixed axes of the basic system (extrinsic): first about x, then about y, then about z.</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CoordinateDialog</name>
+    <message>
+        <source>New coordinate system</source>
+        <translation>New coordinate system</translation>
+    </message>
+    <message>
+        <source>Coordinate system %1</source>
+        <translation>Coordinate system %1</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Relative to</source>
+        <translation>Relative to</translation>
+    </message>
+    <message>
+        <source>Coordinates given as</source>
+        <translation>Coordinates given as</translation>
+    </message>
+    <message>
+        <source>Origin x, y, z, in units of the model</source>
+        <translation>Origin x, y, z, in units of the model</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CoordinateDock</name>
+    <message>
+        <source>its basic system %1 is missing; placed as if global</source>
+        <translation>its basic system %1 is missing; placed as if global</translation>
+    </message>
+    <message>
+        <source>its basic system %1 leads back to it; placed as if global</source>
+        <translation>its basic system %1 leads back to it; placed as if global</translation>
+    </message>
+    <message>
+        <source>Coordinate systems</source>
+        <translation>Coordinate systems</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>Fault</translation>
+    </message>
+    <message>
+        <source>New below...</source>
+        <translation>New below...</translation>
+    </message>
+    <message>
+        <source>Change...</source>
+        <translation>Change...</translation>
+    </message>
+    <message>
+        <source>Delete...</source>
+        <translation>Delete...</translation>
+    </message>
+    <message>
+        <source>Make current</source>
+        <translation>Make current</translation>
+    </message>
+    <message>
+        <source>Show axes</source>
+        <translation>Show axes</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CoordinateName</name>
+    <message>
+        <source>Cartesian</source>
+        <translation>Cartesian</translation>
+    </message>
+    <message>
+        <source>Cylindrical</source>
+        <translation>Cylindrical</translation>
+    </message>
+    <message>
+        <source>Spherical</source>
+        <translation>Spherical</translation>
+    </message>
+    <message>
+        <source>A coordinate system needs a name.</source>
+        <translation>A coordinate system needs a name.</translation>
+    </message>
+    <message>
+        <source>Coordinate system %1 is already called &apos;%2&apos;.</source>
+        <translation>Coordinate system %1 is already called &apos;%2&apos;.</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CoordinateValues</name>
+    <message>
+        <source>In the basic system</source>
+        <translation>In the basic system</translation>
+    </message>
+    <message>
+        <source>Global</source>
+        <translation>Global</translation>
+    </message>
+    <message>
+        <source>Origin x</source>
+        <translation>Origin x</translation>
+    </message>
+    <message>
+        <source>Origin y</source>
+        <translation>Origin y</translation>
+    </message>
+    <message>
+        <source>Origin z</source>
+        <translation>Origin z</translation>
+    </message>
+    <message>
+        <source>Rotation x [deg]</source>
+        <translation>Rotation x [deg]</translation>
+    </message>
+    <message>
+        <source>Rotation y [deg]</source>
+        <translation>Rotation y [deg]</translation>
+    </message>
+    <message>
+        <source>Rotation z [deg]</source>
+        <translation>Rotation z [deg]</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Property</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Value</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::DeleteQuestion</name>
+    <message>
+        <source>%1: projects keep the copies that they have of it.</source>
+        <translation>%1: projects keep the copies that they have of it.</translation>
+    </message>
+    <message>
+        <source>%1: no volume uses it.</source>
+        <translation>%1: no volume uses it.</translation>
+    </message>
+    <message>
+        <source>%1 is used by: %2. They become free space.</source>
+        <translation>%1 is used by: %2. They become free space.</translation>
+    </message>
+    <message>
+        <source>Delete these materials?</source>
+        <translation>Delete these materials?</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::GeometryManager</name>
     <message>
         <source>surface group %1</source>
@@ -14,6 +196,84 @@
     <message>
         <source>volume %1</source>
         <translation>volume %1</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::ImportDialog</name>
+    <message>
+        <source>new</source>
+        <translation>new</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>same</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>changed</translation>
+    </message>
+    <message>
+        <source>refused: reserved name</source>
+        <translation>refused: reserved name</translation>
+    </message>
+    <message>
+        <source>Copy from: %1, to: %2</source>
+        <translation>Copy from: %1, to: %2</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Here</translation>
+    </message>
+    <message>
+        <source>There</source>
+        <translation>There</translation>
+    </message>
+    <message>
+        <source>%1 new, %2 same, %3 changed, %4 refused. Checked materials are copied; a changed one replaces the material of its name.</source>
+        <translation>%1 new, %2 same, %3 changed, %4 refused. Checked materials are copied; a changed one replaces the material of its name.</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::LibraryPane</name>
+    <message>
+        <source>Search names and properties</source>
+        <translation>Search names and properties</translation>
+    </message>
+    <message>
+        <source>New...</source>
+        <translation>New...</translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation>Edit...</translation>
+    </message>
+    <message>
+        <source>Delete...</source>
+        <translation>Delete...</translation>
+    </message>
+    <message>
+        <source>Copy to the project...</source>
+        <translation>Copy to the project...</translation>
+    </message>
+    <message>
+        <source>Copy to the software library...</source>
+        <translation>Copy to the software library...</translation>
+    </message>
+    <message>
+        <source>Compares the selected materials, or all when none is selected, before it copies.</source>
+        <translation>Compares the selected materials, or all when none is selected, before it copies.</translation>
     </message>
 </context>
 <context>
@@ -230,6 +490,109 @@ Version %1</translation>
     </message>
 </context>
 <context>
+    <name>Workbench::MaterialDialog</name>
+    <message>
+        <source>New material - %1</source>
+        <translation>New material - %1</translation>
+    </message>
+    <message>
+        <source>Material %1 - %2</source>
+        <translation>Material %1 - %2</translation>
+    </message>
+    <message>
+        <source>Property %1</source>
+        <translation>Property %1</translation>
+    </message>
+    <message>
+        <source>English name</source>
+        <translation>English name</translation>
+    </message>
+    <message>
+        <source>Chinese name</source>
+        <translation>Chinese name</translation>
+    </message>
+    <message>
+        <source>Property %1, component %2: %3</source>
+        <translation>Property %1, component %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::MaterialDock</name>
+    <message>
+        <source>free space</source>
+        <translation>free space</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materials</translation>
+    </message>
+    <message>
+        <source>Assign to the volumes</source>
+        <translation>Assign to the volumes</translation>
+    </message>
+    <message>
+        <source>Make free space</source>
+        <translation>Make free space</translation>
+    </message>
+    <message>
+        <source>Select volumes to give them a material.</source>
+        <translation>Select volumes to give them a material.</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>Selected: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::MaterialLibraries</name>
+    <message>
+        <source>The change is not in the library&apos;s file yet. %1</source>
+        <translation>The change is not in the library&apos;s file yet. %1</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::MaterialName</name>
+    <message>
+        <source>A material needs an English and a Chinese name.</source>
+        <translation>A material needs an English and a Chinese name.</translation>
+    </message>
+    <message>
+        <source>Material %1 of the same library is already called &apos;%2&apos;.</source>
+        <translation>Material %1 of the same library is already called &apos;%2&apos;.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is reserved: it names the default material, which fills every volume without a material.</source>
+        <translation>&apos;%1&apos; is reserved: it names the default material, which fills every volume without a material.</translation>
+    </message>
+    <message>
+        <source>Project library</source>
+        <translation>Project library</translation>
+    </message>
+    <message>
+        <source>Software library</source>
+        <translation>Software library</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::MaterialTable</name>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>English name</source>
+        <translation>English name</translation>
+    </message>
+    <message>
+        <source>Chinese name</source>
+        <translation>Chinese name</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Properties</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::MeshManager</name>
     <message>
         <source>volume %1</source>
@@ -307,6 +670,33 @@ Version %1</translation>
     <message>
         <source>Mesher output</source>
         <translation>Mesher output</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::NumberField</name>
+    <message>
+        <source>A number is missing.</source>
+        <translation>A number is missing.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has a comma. Write the decimal mark as a point, and thousands without a mark.</source>
+        <translation>&apos;%1&apos; has a comma. Write the decimal mark as a point, and thousands without a mark.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a decimal number such as 0.5 or 1e-12.</source>
+        <translation>&apos;%1&apos; is not a decimal number such as 0.5 or 1e-12.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a finite number.</source>
+        <translation>&apos;%1&apos; is not a finite number.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is too large: the largest number is about 1.8e308.</source>
+        <translation>&apos;%1&apos; is too large: the largest number is about 1.8e308.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; would become 0: the smallest number above it is about 5e-324.</source>
+        <translation>&apos;%1&apos; would become 0: the smallest number above it is about 5e-324.</translation>
     </message>
 </context>
 <context>
@@ -474,6 +864,80 @@ Version %1</translation>
     </message>
 </context>
 <context>
+    <name>Workbench::PropertyEditor</name>
+    <message>
+        <source>The material has this property</source>
+        <translation>The material has this property</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>other</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Quantity</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Kind</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
+    </message>
+    <message>
+        <source>Components</source>
+        <translation>Components</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unit</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Remark</translation>
+    </message>
+    <message>
+        <source>unit X; source of the values; conditions</source>
+        <translation>unit X; source of the values; conditions</translation>
+    </message>
+    <message>
+        <source>set; in the default library: differs between directions</source>
+        <translation>set; in the default library: differs between directions</translation>
+    </message>
+    <message>
+        <source>Flag</source>
+        <translation>Flag</translation>
+    </message>
+    <message>
+        <source>not known: begin the remark with &apos;unit X&apos;</source>
+        <translation>not known: begin the remark with &apos;unit X&apos;</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::PropertyKind</name>
+    <message>
+        <source>relative permittivity</source>
+        <translation>relative permittivity</translation>
+    </message>
+    <message>
+        <source>relative permeability</source>
+        <translation>relative permeability</translation>
+    </message>
+    <message>
+        <source>electric conductivity</source>
+        <translation>electric conductivity</translation>
+    </message>
+    <message>
+        <source>thermal conductivity</source>
+        <translation>thermal conductivity</translation>
+    </message>
+    <message>
+        <source>mass density</source>
+        <translation>mass density</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::PropertyTable</name>
     <message>
         <source>Properties</source>
@@ -570,6 +1034,25 @@ Version %1</translation>
     <message>
         <source>selected items</source>
         <translation>selected items</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::RemovalQuestion</name>
+    <message>
+        <source>No other system is relative to it.</source>
+        <translation>No other system is relative to it.</translation>
+    </message>
+    <message>
+        <source>These are relative to it and go with it: %1.</source>
+        <translation>These are relative to it and go with it: %1.</translation>
+    </message>
+    <message>
+        <source>Coordinate systems</source>
+        <translation>Coordinate systems</translation>
+    </message>
+    <message>
+        <source>Delete %1?</source>
+        <translation>Delete %1?</translation>
     </message>
 </context>
 <context>

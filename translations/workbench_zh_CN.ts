@@ -2,6 +2,188 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>Workbench::AngleFields</name>
+    <message>
+        <source>degrees</source>
+        <translation>度</translation>
+    </message>
+    <message>
+        <source>radians</source>
+        <translation>弧度</translation>
+    </message>
+    <message>
+        <source>Rotation about x, y, z, in</source>
+        <translation>绕 x、y、z 轴的旋转，单位</translation>
+    </message>
+    <message>
+        <source>Right-handed, about the fixed axes of the basic system (extrinsic): first about x, then about y, then about z.</source>
+        <translation>右手系，绕基准坐标系的固定轴（外旋）：先绕 x 轴，再绕 y 轴，最后绕 z 轴。</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CoordinateDialog</name>
+    <message>
+        <source>New coordinate system</source>
+        <translation>新建坐标系</translation>
+    </message>
+    <message>
+        <source>Coordinate system %1</source>
+        <translation>坐标系 %1</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Relative to</source>
+        <translation>相对于</translation>
+    </message>
+    <message>
+        <source>Coordinates given as</source>
+        <translation>坐标类型</translation>
+    </message>
+    <message>
+        <source>Origin x, y, z, in units of the model</source>
+        <translation>原点 x、y、z，模型单位</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CoordinateDock</name>
+    <message>
+        <source>its basic system %1 is missing; placed as if global</source>
+        <translation>缺少其基准坐标系 %1；按全局坐标系放置</translation>
+    </message>
+    <message>
+        <source>its basic system %1 leads back to it; placed as if global</source>
+        <translation>其基准坐标系 %1 又回到它自身；按全局坐标系放置</translation>
+    </message>
+    <message>
+        <source>Coordinate systems</source>
+        <translation>坐标系</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>New below...</source>
+        <translation>在其下新建...</translation>
+    </message>
+    <message>
+        <source>Change...</source>
+        <translation>修改...</translation>
+    </message>
+    <message>
+        <source>Delete...</source>
+        <translation>删除...</translation>
+    </message>
+    <message>
+        <source>Make current</source>
+        <translation>设为当前</translation>
+    </message>
+    <message>
+        <source>Show axes</source>
+        <translation>显示坐标轴</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CoordinateName</name>
+    <message>
+        <source>Cartesian</source>
+        <translation>直角坐标</translation>
+    </message>
+    <message>
+        <source>Cylindrical</source>
+        <translation>柱坐标</translation>
+    </message>
+    <message>
+        <source>Spherical</source>
+        <translation>球坐标</translation>
+    </message>
+    <message>
+        <source>A coordinate system needs a name.</source>
+        <translation>坐标系需要名称。</translation>
+    </message>
+    <message>
+        <source>Coordinate system %1 is already called &apos;%2&apos;.</source>
+        <translation>坐标系 %1 已经叫作“%2”。</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CoordinateValues</name>
+    <message>
+        <source>In the basic system</source>
+        <translation>在基准坐标系中</translation>
+    </message>
+    <message>
+        <source>Global</source>
+        <translation>全局</translation>
+    </message>
+    <message>
+        <source>Origin x</source>
+        <translation>原点 x</translation>
+    </message>
+    <message>
+        <source>Origin y</source>
+        <translation>原点 y</translation>
+    </message>
+    <message>
+        <source>Origin z</source>
+        <translation>原点 z</translation>
+    </message>
+    <message>
+        <source>Rotation x [deg]</source>
+        <translation>旋转 x [度]</translation>
+    </message>
+    <message>
+        <source>Rotation y [deg]</source>
+        <translation>旋转 y [度]</translation>
+    </message>
+    <message>
+        <source>Rotation z [deg]</source>
+        <translation>旋转 z [度]</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::DeleteQuestion</name>
+    <message>
+        <source>%1: projects keep the copies that they have of it.</source>
+        <translation>%1：各项目保留已有的副本。</translation>
+    </message>
+    <message>
+        <source>%1: no volume uses it.</source>
+        <translation>%1：没有体使用它。</translation>
+    </message>
+    <message>
+        <source>%1 is used by: %2. They become free space.</source>
+        <translation>%1 正被以下体使用：%2。它们将变为自由空间。</translation>
+    </message>
+    <message>
+        <source>Delete these materials?</source>
+        <translation>删除这些材料？</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::GeometryManager</name>
     <message>
         <source>surface group %1</source>
@@ -14,6 +196,84 @@
     <message>
         <source>volume %1</source>
         <translation>体 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::ImportDialog</name>
+    <message>
+        <source>new</source>
+        <translation>新增</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>相同</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>已更改</translation>
+    </message>
+    <message>
+        <source>refused: reserved name</source>
+        <translation>拒绝：保留名称</translation>
+    </message>
+    <message>
+        <source>Copy from: %1, to: %2</source>
+        <translation>复制自：%1，到：%2</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>材料</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>此处</translation>
+    </message>
+    <message>
+        <source>There</source>
+        <translation>彼处</translation>
+    </message>
+    <message>
+        <source>%1 new, %2 same, %3 changed, %4 refused. Checked materials are copied; a changed one replaces the material of its name.</source>
+        <translation>%1 个新增，%2 个相同，%3 个已更改，%4 个拒绝。勾选的材料将被复制；已更改的材料替换同名材料。</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::LibraryPane</name>
+    <message>
+        <source>Search names and properties</source>
+        <translation>搜索名称和属性</translation>
+    </message>
+    <message>
+        <source>New...</source>
+        <translation>新建...</translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation>编辑...</translation>
+    </message>
+    <message>
+        <source>Delete...</source>
+        <translation>删除...</translation>
+    </message>
+    <message>
+        <source>Copy to the project...</source>
+        <translation>复制到项目...</translation>
+    </message>
+    <message>
+        <source>Copy to the software library...</source>
+        <translation>复制到软件材料库...</translation>
+    </message>
+    <message>
+        <source>Compares the selected materials, or all when none is selected, before it copies.</source>
+        <translation>复制之前先比较所选材料；未选择时比较全部材料。</translation>
     </message>
 </context>
 <context>
@@ -230,6 +490,109 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Workbench::MaterialDialog</name>
+    <message>
+        <source>New material - %1</source>
+        <translation>新建材料 - %1</translation>
+    </message>
+    <message>
+        <source>Material %1 - %2</source>
+        <translation>材料 %1 - %2</translation>
+    </message>
+    <message>
+        <source>Property %1</source>
+        <translation>属性 %1</translation>
+    </message>
+    <message>
+        <source>English name</source>
+        <translation>英文名称</translation>
+    </message>
+    <message>
+        <source>Chinese name</source>
+        <translation>中文名称</translation>
+    </message>
+    <message>
+        <source>Property %1, component %2: %3</source>
+        <translation>属性 %1，分量 %2：%3</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::MaterialDock</name>
+    <message>
+        <source>free space</source>
+        <translation>自由空间</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>材料</translation>
+    </message>
+    <message>
+        <source>Assign to the volumes</source>
+        <translation>赋给所选体</translation>
+    </message>
+    <message>
+        <source>Make free space</source>
+        <translation>设为自由空间</translation>
+    </message>
+    <message>
+        <source>Select volumes to give them a material.</source>
+        <translation>选择体以赋予材料。</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>已选：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::MaterialLibraries</name>
+    <message>
+        <source>The change is not in the library&apos;s file yet. %1</source>
+        <translation>更改尚未写入材料库文件。%1</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::MaterialName</name>
+    <message>
+        <source>A material needs an English and a Chinese name.</source>
+        <translation>材料需要英文名称和中文名称。</translation>
+    </message>
+    <message>
+        <source>Material %1 of the same library is already called &apos;%2&apos;.</source>
+        <translation>同一材料库中的材料 %1 已经叫作“%2”。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is reserved: it names the default material, which fills every volume without a material.</source>
+        <translation>“%1”是保留名称：它表示默认材料，填充所有未赋材料的体。</translation>
+    </message>
+    <message>
+        <source>Project library</source>
+        <translation>项目材料库</translation>
+    </message>
+    <message>
+        <source>Software library</source>
+        <translation>软件材料库</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::MaterialTable</name>
+    <message>
+        <source>ID</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>English name</source>
+        <translation>英文名称</translation>
+    </message>
+    <message>
+        <source>Chinese name</source>
+        <translation>中文名称</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>属性</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::MeshManager</name>
     <message>
         <source>volume %1</source>
@@ -307,6 +670,33 @@ Version %1</source>
     <message>
         <source>Mesher output</source>
         <translation>网格生成器输出</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::NumberField</name>
+    <message>
+        <source>A number is missing.</source>
+        <translation>缺少数字。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has a comma. Write the decimal mark as a point, and thousands without a mark.</source>
+        <translation>“%1”含有逗号。小数点请写作句点，千位不要分隔。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a decimal number such as 0.5 or 1e-12.</source>
+        <translation>“%1”不是十进制数，例如 0.5 或 1e-12。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a finite number.</source>
+        <translation>“%1”不是有限数。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is too large: the largest number is about 1.8e308.</source>
+        <translation>“%1”太大：最大的数约为 1.8e308。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; would become 0: the smallest number above it is about 5e-324.</source>
+        <translation>“%1”会变成 0：大于 0 的最小数约为 5e-324。</translation>
     </message>
 </context>
 <context>
@@ -474,6 +864,80 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Workbench::PropertyEditor</name>
+    <message>
+        <source>The material has this property</source>
+        <translation>材料具有此属性</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>其他</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>物理量</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Components</source>
+        <translation>分量</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>unit X; source of the values; conditions</source>
+        <translation>unit X; 数值来源; 条件</translation>
+    </message>
+    <message>
+        <source>set; in the default library: differs between directions</source>
+        <translation>置位；在默认材料库中表示各方向不同</translation>
+    </message>
+    <message>
+        <source>Flag</source>
+        <translation>标志</translation>
+    </message>
+    <message>
+        <source>not known: begin the remark with &apos;unit X&apos;</source>
+        <translation>未知：请以“unit X”开始备注</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::PropertyKind</name>
+    <message>
+        <source>relative permittivity</source>
+        <translation>相对介电常数</translation>
+    </message>
+    <message>
+        <source>relative permeability</source>
+        <translation>相对磁导率</translation>
+    </message>
+    <message>
+        <source>electric conductivity</source>
+        <translation>电导率</translation>
+    </message>
+    <message>
+        <source>thermal conductivity</source>
+        <translation>热导率</translation>
+    </message>
+    <message>
+        <source>mass density</source>
+        <translation>质量密度</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::PropertyTable</name>
     <message>
         <source>Properties</source>
@@ -570,6 +1034,25 @@ Version %1</source>
     <message>
         <source>selected items</source>
         <translation>已选项目</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::RemovalQuestion</name>
+    <message>
+        <source>No other system is relative to it.</source>
+        <translation>没有其他坐标系相对于它。</translation>
+    </message>
+    <message>
+        <source>These are relative to it and go with it: %1.</source>
+        <translation>以下坐标系相对于它，将一并删除：%1。</translation>
+    </message>
+    <message>
+        <source>Coordinate systems</source>
+        <translation>坐标系</translation>
+    </message>
+    <message>
+        <source>Delete %1?</source>
+        <translation>删除 %1？</translation>
     </message>
 </context>
 <context>

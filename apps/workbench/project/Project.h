@@ -58,8 +58,7 @@ public:
 Q_SIGNALS:
     /// Path, geometry or isModified() changed.
     void signal_changed();
-    /// Another project is open: everything may have changed, materials and coordinate systems without a signal of
-    /// their own.
+    /// Another project is open: everything may have changed.
     void signal_opened();
 
 private:

@@ -3,7 +3,9 @@
 
 #include <workbench/project/Project.h>
 
+#include <workbench/coordinates/CoordinateSystems.h>
 #include <workbench/geometry/GeometryManager.h>
+#include <workbench/material/MaterialLibraries.h>
 #include <workbench/mesh/MeshManager.h>
 #include <workbench/project/ProjectArchive.h>
 #include <workbench/project/ProjectFiles.h>
@@ -12,9 +14,6 @@
 
 #include <basemodule/GlobalHelper.h>
 #include <basemodule/IBaseSignal.h>
-#include <datamanager/coordinates/RelativeCoordinateSystem.h>
-#include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
-#include <datamanager/material/MaterialLibraryManager.h>
 #include <datamanager/selection/SelectedDataManager.h>
 
 #include <QFile>
@@ -22,9 +21,6 @@
 
 using BaseModule::GlobalHelper;
 using BaseModule::IBaseSignal;
-using DataManager::MaterialLibraryManager;
-using DataManager::RelativeCoordinateSystem;
-using DataManager::RelativeCoordinateSystemDate;
 using DataManager::SelectedDataManager;
 
 namespace Workbench {
@@ -41,14 +37,9 @@ Project::Project()
     SelectedDataManager::getInstance()->setHighLightCheckEnable(true);
     watchManagers();
     create();
-    // The registry's position 0 is that of the global system. It must be there before any file is read.
+    // The first access makes the global system, which must be there before any file is read.
     m_isLoading = true;
-    if (RelativeCoordinateSystemDate::getInstance()->getRelativeCoordinateSystemDateCount() == 0) {
-        auto* global = new RelativeCoordinateSystem;
-        global->setName(QStringLiteral("Global"));
-        RelativeCoordinateSystemDate::getInstance()->appendCoordinateSystem(global);
-        RelativeCoordinateSystem::resetMaxID();
-    }
+    CoordinateSystems::instance();
     m_isLoading = false;
 }
 
@@ -111,8 +102,8 @@ void Project::unload()
     SelectedDataManager::getInstance()->clearAllSelectedTarget();
     MeshManager::instance()->clear();
     GeometryManager::instance()->clear();
-    RelativeCoordinateSystemDate::getInstance()->resetData();
-    MaterialLibraryManager::getInstance()->clearProjectMaterial();
+    CoordinateSystems::instance()->clearProject();
+    MaterialLibraries::instance()->clearProject();
 }
 
 void Project::load()
@@ -123,8 +114,8 @@ void Project::load()
         fail(tr("The materials of the project %1 cannot be read: %2"), m_path,
              tr("they were saved with another key, or are damaged. The file is kept in the project"));
     }
-    MaterialLibraryManager::getInstance()->initProjectMaterial();
-    RelativeCoordinateSystemDate::getInstance()->readConfig();
+    MaterialLibraries::instance()->loadProject();
+    CoordinateSystems::instance()->loadProject();
     GeometryManager::instance()->load(ProjectFiles::geometry(directory));
     MeshManager::instance()->restore(ProjectFiles::mesh(directory));
     m_isLoading = false;

@@ -3,6 +3,8 @@
 
 #include <workbench/window/MainWindow.h>
 
+#include <workbench/coordinates/CoordinateDock.h>
+#include <workbench/material/MaterialDock.h>
 #include <workbench/project/Project.h>
 #include <workbench/property/PropertyTable.h>
 #include <workbench/selection/ProjectTree.h>
@@ -45,6 +47,8 @@ void MainWindow::createDocks()
     QDockWidget* tree = addDock(new ProjectTree(this), Qt::LeftDockWidgetArea);
     addDock(new PropertyTable(this), Qt::LeftDockWidgetArea, true);
     QDockWidget* messages = addDock(new MessagePanel(this), Qt::BottomDockWidgetArea);
+    addDock(new MaterialDock(this), Qt::RightDockWidgetArea);
+    addDock(new CoordinateDock(this), Qt::RightDockWidgetArea);
     // A room is added by one line: addDock(new View(this), Qt::RightDockWidgetArea);
     resizeDocks({messages}, {130}, Qt::Vertical);
     resizeDocks({tree}, {300}, Qt::Horizontal);

@@ -450,13 +450,17 @@ void tst_CoordinateDock::switchesAxes()
     QVERIFY(!isSeen(0) && !isSeen(1));
     click(*m_dock, "showAxes");
     QVERIFY(isSeen(0) && isSeen(1));
-    // The mark of one, by key.
-    choose(1);
-    QTest::keyClick(&treeWidget(), Qt::Key_Space);
+    // The mark of one, which stands at the left of its name.
+    const auto clickMark = [this] {
+        const QRect item = treeWidget().visualItemRect(treeWidget().topLevelItem(0)->child(0));
+        QTest::mouseClick(treeWidget().viewport(), Qt::LeftButton, Qt::NoModifier,
+                          {item.left() + item.height() / 2, item.center().y()});
+    };
+    clickMark();
     QTRY_VERIFY(!isSeen(1));
     QVERIFY(isSeen(0));
     QTRY_COMPARE(treeWidget().topLevelItem(0)->child(0)->checkState(0), Qt::Unchecked);
-    QTest::keyClick(&treeWidget(), Qt::Key_Space);
+    clickMark();
     QTRY_VERIFY(isSeen(1));
 }
 

@@ -4,6 +4,8 @@
 // Drives the workbench through its main states and saves a picture of each.
 //   workbench_pictures SAMPLES DIRECTORY
 
+#include "DataPictures.h"
+
 #include <workbench/geometry/GeometryManager.h>
 #include <workbench/mesh/MeshDisplay.h>
 #include <workbench/mesh/MeshManager.h>
@@ -47,6 +49,8 @@ public:
         return picture.toImage().scaledToWidth(1100, Qt::SmoothTransformation).save(m_directory + name);
     }
 
+    QString directory() const { return m_directory; }
+
 private:
     QString m_samples;
     QString m_directory;
@@ -68,6 +72,8 @@ bool takeAll(MainWindow& window, Pictures& pictures)
     Language::instance()->choose(QStringLiteral("Chinese"));
     isGood = isGood && pictures.take(window, QStringLiteral("/workbench-chinese.png"));
     Language::instance()->choose(QStringLiteral("English"));
+    isGood = isGood && takeDataPictures(window, pictures.directory());
+    isGood = isGood && pictures.take(window, QStringLiteral("/workbench-axes.png"));
     return isGood;
 }
 

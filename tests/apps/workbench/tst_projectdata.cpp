@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "WindowTest.h"
+
+#include <support/FilesAndLog.h>
+#include <workbench/coordinates/CoordinateDock.h>
+#include <workbench/coordinates/CoordinateSystems.h>
+#include <workbench/material/MaterialDock.h>
+#include <workbench/material/MaterialLibraries.h>
+#include <workbench/project/Project.h>
+
+#include <basemodule/GlobalHelper.h>
+#include <configoption/TextCipher.h>
+#include <datamanager/coordinates/RelativeCoordinateSystem.h>
+#include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
+#include <datamodel/MaterialData.h>
+
+#include <QTemporaryDir>
+#include <QTreeView>
+#include <QTreeWidget>
+
+using Workbench::CoordinateSystems;
+using Workbench::MaterialLibraries;
+using Workbench::Project;
+
+namespace {
+
+QByteArray workingFile(const char* name)
+{
+    return contentOf(BaseModule::GlobalHelper::getProjectTempIODir() + QLatin1Char('/') + QLatin1String(name));
+}
+
+QString materialJson()
+{
+    const QString text = QString::fromUtf8(workingFile("MaterialLibrary.json"));
+    return ConfigOption::TextCipher::getInstance()->decryptData_CBC(text);
+}
+
+void makeContent()
+{
+    MaterialLibraries::instance()->import(BaseModule::SoftwareLib, {1, 15, 2}, {});
+    const auto odd = QSharedPointer<DataModel::MaterialPropertyData>::create();
+    odd->components = {1e-300, 0.1 + 0.2, -0.0, 5e-324, 1.7976931348623157e308, 0, 0, 0, 1.0 / 3};
+    MaterialLibraries::instance()->create(BaseModule::ProjectLib, {0, text("怪"), text("Odd"), odd, {}, {}, {}, {}});
+    MaterialLibraries::instance()->remove(BaseModule::ProjectLib, {2});
+    CoordinateSystems::instance()->create(0, {text("Table"), BaseModule::Cylindrical, {1e-300, 0.1 + 0.2, -0.0}, {}});
+    CoordinateSystems::instance()->create(1, {text("Tool"), BaseModule::Cartesian, {1, 2, 3}, {0, 0, 1.0 / 3}});
+}
+
+} // namespace
+
+/// Materials and coordinate systems of a project that is saved and opened again.
+class tst_ProjectData : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void marksChanges();
+    void comesBackExactly();
+    void cleanupTestCase() { Project::instance()->close(); }
+};
+
+void tst_ProjectData::marksChanges()
+{
+    QVERIFY(Project::instance()->create());
+    QVERIFY(!Project::instance()->isModified());
+    MaterialLibraries::instance()->import(BaseModule::SoftwareLib, {1}, {});
+    QVERIFY(Project::instance()->isModified());
+    QVERIFY(Project::instance()->create());
+    QVERIFY(!Project::instance()->isModified());
+    CoordinateSystems::instance()->create(0, {text("Table"), BaseModule::Cartesian, {}, {}});
+    QVERIFY(Project::instance()->isModified());
+}
+
+void tst_ProjectData::comesBackExactly()
+{
+    QVERIFY(Project::instance()->create());
+    Workbench::MaterialDock materials;
+    Workbench::CoordinateDock systems;
+    const QAbstractItemModel& list = *materials.findChild<QTreeView*>(text("materialsProject"))->model();
+    const QTreeWidget& tree = *systems.findChild<QTreeWidget*>(text("coordinateTree"));
+    makeContent();
+    const QString savedMaterials = materialJson();
+    const QByteArray savedSystems = workingFile("RelativeCoordinateSystemDate.json");
+    QVERIFY(savedMaterials.contains(text("Odd")) && savedSystems.contains("Tool"));
+    const QTemporaryDir directory;
+    QVERIFY(Project::instance()->saveAs(directory.filePath(text("example.wbproj"))));
+    QVERIFY(!Project::instance()->isModified());
+
+    QVERIFY(Project::instance()->create());
+    QCOMPARE(list.rowCount(), 0);
+    QCOMPARE(tree.topLevelItem(0)->childCount(), 0);
+
+    QVERIFY(Project::instance()->open(directory.filePath(text("example.wbproj"))));
+    QVERIFY(!Project::instance()->isModified());
+    QCOMPARE(materialJson(), savedMaterials);
+    QCOMPARE(workingFile("RelativeCoordinateSystemDate.json"), savedSystems);
+    QCOMPARE(list.rowCount(), 3);
+    QCOMPARE(list.index(2, 1).data().toString(), text("Odd"));
+    QCOMPARE(tree.topLevelItem(0)->child(0)->child(0)->text(0), text("Tool"));
+    auto* const tool = DataManager::RelativeCoordinateSystemDate::getInstance()->getCoordinateSystemByID(2);
+    QVERIFY(tool->getActor() != nullptr);
+    // What was read is what the next save writes.
+    MaterialLibraries::instance()->update(BaseModule::ProjectLib, 4,
+                                          *MaterialLibraries::material(BaseModule::ProjectLib, 4));
+    QCOMPARE(materialJson(), savedMaterials);
+}
+
+WORKBENCH_TEST_MAIN(tst_ProjectData)
+#include "tst_projectdata.moc"
