@@ -179,6 +179,10 @@
         <translation>%1 is used by: %2. They become free space.</translation>
     </message>
     <message>
+        <source>and %1 more</source>
+        <translation>and %1 more</translation>
+    </message>
+    <message>
         <source>Delete these materials?</source>
         <translation>Delete these materials?</translation>
     </message>

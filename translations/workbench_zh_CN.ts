@@ -179,6 +179,10 @@
         <translation>%1 正被以下体使用：%2。它们将变为自由空间。</translation>
     </message>
     <message>
+        <source>and %1 more</source>
+        <translation>以及另外 %1 个</translation>
+    </message>
+    <message>
         <source>Delete these materials?</source>
         <translation>删除这些材料？</translation>
     </message>

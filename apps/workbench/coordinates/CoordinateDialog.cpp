@@ -106,6 +106,7 @@ void CoordinateDialog::layOut()
     connect(buttons, &QDialogButtonBox::accepted, this, &CoordinateDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &CoordinateDialog::reject);
     m_refusal->setWordWrap(true);
+    m_refusal->setTextFormat(Qt::PlainText);
     m_refusal->setStyleSheet(QStringLiteral("color: #c00000;"));
     auto* const form = new QFormLayout(this);
     form->addRow(tr("Name"), m_name);

@@ -24,7 +24,7 @@ class Texts
 
 QString coordinateTitle(const RelativeCoordinateSystem& system)
 {
-    return QStringLiteral("%1 (%2)").arg(system.getName()).arg(system.getID());
+    return QStringLiteral("%1 (%2)").arg(system.getName(), QString::number(system.getID()));
 }
 
 QString coordinateTypeTitle(BaseModule::CoordinateSystemType type)

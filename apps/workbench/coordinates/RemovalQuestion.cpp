@@ -9,6 +9,7 @@
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
 #include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
 
+#include <QLabel>
 #include <QMessageBox>
 
 namespace Workbench {
@@ -44,6 +45,9 @@ void RemovalQuestion::openFor(int id, QWidget* parent)
                         QMessageBox::Yes | QMessageBox::Cancel, parent);
     question->setObjectName(QStringLiteral("removalQuestion"));
     question->setInformativeText(dependentsText(id));
+    // Names are no markup.
+    question->setTextFormat(Qt::PlainText);
+    question->findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"))->setTextFormat(Qt::PlainText);
     question->setDefaultButton(QMessageBox::Cancel);
     question->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(question, &QMessageBox::finished, [id](int answer) {

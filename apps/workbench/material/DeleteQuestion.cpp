@@ -9,6 +9,7 @@
 
 #include <datamodel/MaterialData.h>
 
+#include <QLabel>
 #include <QMessageBox>
 
 namespace Workbench {
@@ -36,16 +37,29 @@ QString useText(BaseModule::MaterialLibType type, const DataModel::MaterialData&
                                 .arg(materialTitle(material), uses.join(QStringLiteral(", ")));
 }
 
+/// One line a material, those in use first, and not more than a screen holds.
+QStringList useTexts(BaseModule::MaterialLibType type, const QList<int>& ids)
+{
+    constexpr int mostLines = 12;
+    QStringList used;
+    QStringList unused;
+    for (const int id : ids) {
+        if (const Materials::Material material = MaterialLibraries::material(type, id)) {
+            const bool isUsed = type == BaseModule::ProjectLib && !usesOf(id).isEmpty();
+            (isUsed ? used : unused).append(useText(type, *material));
+        }
+    }
+    const QStringList all = used + unused;
+    return all.size() <= mostLines
+               ? all
+               : all.mid(0, mostLines) + QStringList{DeleteQuestion::tr("and %1 more").arg(all.size() - mostLines)};
+}
+
 } // namespace
 
 void DeleteQuestion::openFor(BaseModule::MaterialLibType type, const QList<int>& ids, QWidget* parent)
 {
-    QStringList uses;
-    for (const int id : ids) {
-        if (const Materials::Material material = MaterialLibraries::material(type, id)) {
-            uses.append(useText(type, *material));
-        }
-    }
+    const QStringList uses = useTexts(type, ids);
     if (uses.isEmpty()) {
         return;
     }
@@ -53,6 +67,8 @@ void DeleteQuestion::openFor(BaseModule::MaterialLibType type, const QList<int>&
                                            QMessageBox::Yes | QMessageBox::Cancel, parent);
     question->setObjectName(QStringLiteral("deleteQuestion"));
     question->setInformativeText(uses.join(QLatin1Char('\n')));
+    // Names are no markup.
+    question->findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"))->setTextFormat(Qt::PlainText);
     question->setDefaultButton(QMessageBox::Cancel);
     question->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(question, &QMessageBox::finished, [type, ids](int answer) {

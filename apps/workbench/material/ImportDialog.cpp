@@ -13,6 +13,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QSet>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -61,9 +62,10 @@ ImportDialog::ImportDialog(BaseModule::MaterialLibType from, const QList<int>& i
 
 void ImportDialog::compare(const QList<int>& ids)
 {
+    const QSet<int> wanted(ids.begin(), ids.end());
     QList<Materials::Material> sources;
     for (const Materials::Material& material : MaterialLibraries::materials(m_from)) {
-        if (ids.isEmpty() || ids.contains(material->id)) {
+        if (wanted.isEmpty() || wanted.contains(material->id)) {
             sources.append(material);
         }
     }

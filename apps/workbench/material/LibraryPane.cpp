@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSet>
 #include <QSortFilterProxyModel>
 #include <QTreeView>
 
@@ -134,10 +135,11 @@ QList<int> LibraryPane::selectedIDs() const
 
 void LibraryPane::select(const QList<int>& ids)
 {
+    const QSet<int> wanted(ids.begin(), ids.end());
     QItemSelection selection;
     for (int row = 0; row < m_found->rowCount(); ++row) {
         const QModelIndex index = m_found->index(row, 0);
-        if (ids.contains(index.data(MaterialTable::IdentifierRole).toInt())) {
+        if (wanted.contains(index.data(MaterialTable::IdentifierRole).toInt())) {
             selection.select(index, index);
         }
     }

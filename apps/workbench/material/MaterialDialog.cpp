@@ -66,6 +66,7 @@ void MaterialDialog::layOut()
     names->addRow(tr("English name"), m_englishName);
     names->addRow(tr("Chinese name"), m_chineseName);
     m_refusal->setWordWrap(true);
+    m_refusal->setTextFormat(Qt::PlainText);
     m_refusal->setStyleSheet(QStringLiteral("color: #c00000;"));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &MaterialDialog::accept);

@@ -58,6 +58,8 @@ MaterialDock::MaterialDock(QWidget* parent)
       m_assign(new QPushButton(this)), m_unassign(new QPushButton(this))
 {
     m_selection->setObjectName(QStringLiteral("selectedVolumes"));
+    m_selection->setTextFormat(Qt::PlainText);
+    m_selection->setWordWrap(true);
     m_assign->setObjectName(QStringLiteral("assign"));
     m_unassign->setObjectName(QStringLiteral("unassign"));
     layOut();

@@ -80,6 +80,7 @@ public:
         for (int row = 0; row < view.model()->rowCount(); ++row) {
             const QModelIndex index = view.model()->index(row, 1);
             if (ids.contains(index.siblingAtColumn(0).data().toInt())) {
+                view.scrollTo(index);
                 QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::ControlModifier,
                                   view.visualRect(index).center());
             }

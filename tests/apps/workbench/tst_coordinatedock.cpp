@@ -419,12 +419,12 @@ void tst_CoordinateDock::removesAfterAsking()
 {
     Fixture::create(0, text("Table"));
     Fixture::create(1, text("Tool"));
-    Fixture::create(2, text("Tip"));
+    Fixture::create(2, text("Tip %2"));
     choose(1);
     click(*m_dock, "removeSystem");
     const auto& question = dynamic_cast<const QMessageBox&>(*windowNamed("removalQuestion"));
     QCOMPARE(question.text(), text("Delete Table (1)?"));
-    QCOMPARE(question.informativeText(), text("These are relative to it and go with it: Tool (2), Tip (3)."));
+    QCOMPARE(question.informativeText(), text("These are relative to it and go with it: Tool (2), Tip %2 (3)."));
     answer(question, QMessageBox::Cancel);
     finishClosing();
     QCOMPARE(Fixture::ids(), text("[0,1,2,3]"));

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void followsOthers();
     void deletesAfterAsking();
     void deletesSeveralFromTheTop();
+    void asksShortlyAboutMany();
     void deletesFromTheSoftwareLibrary();
     void assignsToTheSelectedVolumes();
     void showsMaterialsOfSelectedVolumes();
@@ -207,6 +208,25 @@ void tst_MaterialDock::deletesSeveralFromTheTop()
     QCOMPARE(calls, QStringList({text("delMatUpdateGeometryData 4"), text("delMatUpdateGeometryData 3"),
                                  text("delMatUpdateGeometryData 2"), text("changed 1"), text("updateWindowTitle")}));
     QCOMPARE(m_fixture->savedProject(), text("1:Steel next 2"));
+}
+
+void tst_MaterialDock::asksShortlyAboutMany()
+{
+    QList<int> all;
+    for (int id = 1; id <= 14; ++id) {
+        createProject({text("m%1").arg(id)});
+        all.append(id);
+    }
+    GeometryManager::instance()->setMaterialID({m_fixture->addVolume(text("<b>block</b>"))}, 14);
+    m_fixture->choose("materialsProject", all);
+    click(m_fixture->dock(), "deleteProject");
+    const QStringList lines =
+        dynamic_cast<QMessageBox&>(*windowNamed("deleteQuestion")).informativeText().split(QLatin1Char('\n'));
+    QCOMPARE(lines.size(), 13);
+    QCOMPARE(lines.first(), text("m14 is used by: <b>block</b>. They become free space."));
+    QCOMPARE(lines.at(1), text("m1: no volume uses it."));
+    QCOMPARE(lines.last(), text("and 2 more"));
+    answer(*windowNamed("deleteQuestion"), QMessageBox::Cancel);
 }
 
 void tst_MaterialDock::deletesFromTheSoftwareLibrary()
