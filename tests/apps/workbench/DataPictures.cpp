@@ -83,10 +83,10 @@ bool takeMaterials(QWidget& window, const QString& directory)
 bool takeCoordinates(QWidget& window, const QString& directory)
 {
     CoordinateSystems& systems = *CoordinateSystems::instance();
-    const int table = systems.create(0, {QStringLiteral("Table"), BaseModule::Cartesian, {0.04, 0, 0.02}, {0, 0, 0}});
-    const int spindle = systems.create(
-        table, {QStringLiteral("Spindle"), BaseModule::Cylindrical, {0, 0.03, 0.01}, {0, 0, radiansOf(30)}});
-    systems.create(0, {QStringLiteral("Support"), BaseModule::Cartesian, {-0.05, 0, 0}, {radiansOf(90), 0, 0}});
+    const int table = systems.create(0, {QStringLiteral("Table"), BaseModule::Cartesian, {40, 0, 20}, {0, 0, 0}});
+    const int spindle =
+        systems.create(table, {QStringLiteral("Spindle"), BaseModule::Cylindrical, {0, 30, 10}, {0, 0, radiansOf(30)}});
+    systems.create(0, {QStringLiteral("Support"), BaseModule::Cartesian, {-50, 0, 0}, {radiansOf(90), 0, 0}});
     systems.setCurrent(table);
     auto& dock = *window.findChild<CoordinateDock*>();
     QTreeWidget& tree = *dock.findChild<QTreeWidget*>();
