@@ -29,10 +29,10 @@ one() { # COMPILER TYPE LINK [OPTION...]
   quietly cmake --install "$build" --prefix "$build/prefix"
   for consumer in installed pkgconfig; do
     quietly env DATAMANAGER_DEPS_DIR=/nonexistent cmake -G Ninja -S "tests/consumers/$consumer" \
-      -B "$build/consumer-$consumer" "-DCMAKE_PREFIX_PATH=$build/prefix" "-DCMAKE_CXX_COMPILER=$cxx" \
+      -B "$build/consumers/$consumer" "-DCMAKE_PREFIX_PATH=$build/prefix" "-DCMAKE_CXX_COMPILER=$cxx" \
       "-DCMAKE_C_COMPILER=$cc" "-DCMAKE_BUILD_TYPE=$type" "${launcher[@]}"
-    quietly cmake --build "$build/consumer-$consumer"
-    (cd "$build" && quietly env QT_QPA_PLATFORM=offscreen "consumer-$consumer/consumer")
+    quietly cmake --build "$build/consumers/$consumer"
+    (cd "$build" && quietly env QT_QPA_PLATFORM=offscreen "consumers/$consumer/consumer")
     grep -q 'consumer: ok' "$log" || { cat "$log" >&2; exit 1; }
   done
   if [ -x "$build/prefix/bin/meshquality" ]; then
