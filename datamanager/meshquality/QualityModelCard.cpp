@@ -21,6 +21,8 @@ namespace {
 
 // Bounds are written with six digits, so a value up to one unit of the last beyond a bound may have been trained on.
 constexpr double roundingOfBounds = 1e-5;
+// Below it 1 / score says no more than that the mesh is useless.
+constexpr double leastExplainedScore = 1e-3;
 
 const QString nameKey = QStringLiteral("name");
 const QString versionKey = QStringLiteral("version");
@@ -160,8 +162,9 @@ QString QualityModelCard::explanation(float score) const
     }
     const QString pattern = m_metadata.value(explanationKey).simplified();
     const double value = static_cast<double>(score);
-    return pattern.isEmpty() || value == 0.0 ? m_metadata.value(meaningKey).simplified()
-                                             : filledIn(pattern, threeDigits(value), threeDigits(1.0 / value));
+    return pattern.isEmpty() || value < leastExplainedScore
+               ? m_metadata.value(meaningKey).simplified()
+               : filledIn(pattern, threeDigits(value), threeDigits(1.0 / value));
 }
 
 void QualityModelCard::takeFeatureOrder()

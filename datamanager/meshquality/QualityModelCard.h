@@ -110,8 +110,8 @@ public:
     std::vector<Excess> outsideOfTraining(const Features& features) const;
 
     /// What a score in [0, 1] says, in a sentence: `explanation` from the metadata, with %1 for the score and %2 for
-    /// 1 / score, both to three digits; where there is none, and for the score 0, `meaning`. Empty for NaN and when the
-    /// file says nothing. In one line.
+    /// 1 / score, both to three digits; where there is none, and for a score below 0.001, `meaning`. Empty for NaN and
+    /// when the file says nothing. In one line.
     QString explanation(float score) const;
 
 private:

@@ -12,7 +12,7 @@ namespace DataModel {
 namespace {
 // Runs in a static link, too: the destructor below is out of line, so that whoever uses the class links this file.
 [[maybe_unused]] const bool isRegistered = QJsonHelper::registerRecordType<MaterialData>();
-}
+} // namespace
 
 MaterialData::~MaterialData() = default;
 

@@ -437,6 +437,8 @@ void QualityModelCardTest::explainsScores_data()
     row("best", "%1 %2", 1.0F, "1 1");
     row("two lines", "%1\n%2", 0.5F, "0.5 2");
     row("worst", "%1 %2", 0.0F, "meant");
+    row("as good as the worst", "%1 %2", 0.00099F, "meant");
+    row("hardly better", "%1 %2", 0.00101F, "0.00101 990");
     row("none", "", 0.5F, "meant");
     row("blank", " ", 0.5F, "meant");
     row("no number", "%1 %2", std::numeric_limits<float>::quiet_NaN(), "");
