@@ -7,6 +7,7 @@
 #include <workbench/material/MaterialDock.h>
 #include <workbench/project/Project.h>
 #include <workbench/property/PropertyTable.h>
+#include <workbench/quality/QualityDock.h>
 #include <workbench/selection/ProjectTree.h>
 #include <workbench/view/View3D.h>
 #include <workbench/window/MessagePanel.h>
@@ -49,6 +50,7 @@ void MainWindow::createDocks()
     QDockWidget* messages = addDock(new MessagePanel(this), Qt::BottomDockWidgetArea);
     addDock(new MaterialDock(this), Qt::RightDockWidgetArea);
     addDock(new CoordinateDock(this), Qt::RightDockWidgetArea);
+    addDock(new QualityDock(this), Qt::RightDockWidgetArea);
     // A room is added by one line: addDock(new View(this), Qt::RightDockWidgetArea);
     resizeDocks({messages}, {130}, Qt::Vertical);
     resizeDocks({tree}, {300}, Qt::Horizontal);

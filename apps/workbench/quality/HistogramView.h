@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#pragma once
+
+#include <datamanager/meshquality/MeshQualityReport.h>
+
+#include <QWidget>
+
+namespace Workbench {
+
+/// Bars for the numbers of elements by value. A click chooses a bar, dragging several; holding Ctrl adds to what is
+/// chosen already.
+class HistogramView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit HistogramView(QWidget* parent = nullptr);
+
+    void setHistogram(const DataManager::MeshQualityReport::Histogram& histogram);
+    const DataManager::MeshQualityReport::Histogram& histogram() const { return m_histogram; }
+    /// Where the mouse chooses a bar: its column, at full height.
+    QRect column(int bin) const;
+
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    /// The bars from `first` to `last` were chosen.
+    void signal_binsChosen(int first, int last, bool isAdded);
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    QRect plot() const;
+    int binCount() const { return static_cast<int>(m_histogram.counts.size()); }
+    /// The nearest one.
+    int binAt(int x) const;
+    bool isChosen(int bin) const;
+    QRect bar(int bin) const;
+    QString tip(int bin) const;
+
+    DataManager::MeshQualityReport::Histogram m_histogram{};
+    int m_pressed = -1;
+    int m_last = -1;
+};
+
+} // namespace Workbench
