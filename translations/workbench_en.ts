@@ -203,6 +203,23 @@
     </message>
 </context>
 <context>
+    <name>Workbench::HistogramView</name>
+    <message>
+        <source>%1 to %2: %3 elements
+A click selects them, dragging those of several bars; hold Ctrl to add.</source>
+        <translation>%1 to %2: %3 elements
+A click selects them, dragging those of several bars; hold Ctrl to add.</translation>
+    </message>
+    <message>
+        <source>no finite value</source>
+        <translation>no finite value</translation>
+    </message>
+    <message>
+        <source>up to %1 elements</source>
+        <translation>up to %1 elements</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::ImportDialog</name>
     <message>
         <source>new</source>
@@ -1041,6 +1058,100 @@ Version %1</translation>
     </message>
 </context>
 <context>
+    <name>Workbench::QualityDock</name>
+    <message>
+        <source>Quality</source>
+        <translation>Quality</translation>
+    </message>
+    <message>
+        <source>Colour by face</source>
+        <translation>Colour by face</translation>
+    </message>
+    <message>
+        <source>By what the mesh is coloured</source>
+        <translation>By what the mesh is coloured</translation>
+    </message>
+    <message>
+        <source>Worst elements</source>
+        <translation>Worst elements</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>Regions</translation>
+    </message>
+    <message>
+        <source>No mesh</source>
+        <translation>No mesh</translation>
+    </message>
+    <message>
+        <source>%1 of %2 elements</source>
+        <translation>%1 of %2 elements</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation>Median</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mean</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>Not finite</source>
+        <translation>Not finite</translation>
+    </message>
+    <message>
+        <source>Inverted / flat</source>
+        <translation>Inverted / flat</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::RegionTable</name>
+    <message>
+        <source>Region</source>
+        <translation>Region</translation>
+    </message>
+    <message>
+        <source>Elements</source>
+        <translation>Elements</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation>Median</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mean</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>Not finite</source>
+        <translation>Not finite</translation>
+    </message>
+    <message>
+        <source>Inverted</source>
+        <translation>Inverted</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>Flat</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::RemovalQuestion</name>
     <message>
         <source>No other system is relative to it.</source>
@@ -1057,6 +1168,52 @@ Version %1</translation>
     <message>
         <source>Delete %1?</source>
         <translation>Delete %1?</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::ScoreHistory</name>
+    <message>
+        <source>The mesh has no score: it could not be copied to %1, where the predictor reads.</source>
+        <translation>The mesh has no score: it could not be copied to %1, where the predictor reads.</translation>
+    </message>
+    <message>
+        <source>The last score is not that of this mesh: it could not be copied to %1, where the predictor reads, or another program has written there.</source>
+        <translation>The last score is not that of this mesh: it could not be copied to %1, where the predictor reads, or another program has written there.</translation>
+    </message>
+    <message>
+        <source>The mesh has no score: the quality model %1 cannot be used: %2</source>
+        <translation>The mesh has no score: the quality model %1 cannot be used: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::ScoreText</name>
+    <message>
+        <source>The score means nothing, because the mean of a metric is no finite number.</source>
+        <translation>The score means nothing, because the mean of a metric is no finite number.</translation>
+    </message>
+    <message>
+        <source>There is no score: the model gives no number for this mesh.</source>
+        <translation>There is no score: the model gives no number for this mesh.</translation>
+    </message>
+    <message>
+        <source>Score %1 (0 worst, 1 best).</source>
+        <translation>Score %1 (0 worst, 1 best).</translation>
+    </message>
+    <message>
+        <source>A mesh is scored when it is opened.</source>
+        <translation>A mesh is scored when it is opened.</translation>
+    </message>
+    <message>
+        <source>Model: %1.</source>
+        <translation>Model: %1.</translation>
+    </message>
+    <message>
+        <source>It is practically the mesh that was scored last, so the history has no new entry.</source>
+        <translation>It is practically the mesh that was scored last, so the history has no new entry.</translation>
+    </message>
+    <message>
+        <source>Mean %1 %2 lies outside of the range that the model was trained on, %3 to %4.</source>
+        <translation>Mean %1 %2 lies outside of the range that the model was trained on, %3 to %4.</translation>
     </message>
 </context>
 <context>
@@ -1086,6 +1243,37 @@ Version %1</translation>
     <message>
         <source>The picture cannot be saved as %1.</source>
         <translation>The picture cannot be saved as %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::WorstList</name>
+    <message>
+        <source>Number:</source>
+        <translation>Number:</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Select</translation>
+    </message>
+    <message>
+        <source>Selects the elements of the marked rows, or all of the list when none is marked</source>
+        <translation>Selects the elements of the marked rows, or all of the list when none is marked</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>Element</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Region</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>A double click or Enter looks at the element</source>
+        <translation>A double click or Enter looks at the element</translation>
     </message>
 </context>
 </TS>

@@ -203,6 +203,23 @@
     </message>
 </context>
 <context>
+    <name>Workbench::HistogramView</name>
+    <message>
+        <source>%1 to %2: %3 elements
+A click selects them, dragging those of several bars; hold Ctrl to add.</source>
+        <translation>%1 至 %2：%3 个单元
+单击选中这些单元，拖动选中多个柱条的单元；按住 Ctrl 追加。</translation>
+    </message>
+    <message>
+        <source>no finite value</source>
+        <translation>没有有限值</translation>
+    </message>
+    <message>
+        <source>up to %1 elements</source>
+        <translation>最多 %1 个单元</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::ImportDialog</name>
     <message>
         <source>new</source>
@@ -1041,6 +1058,100 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Workbench::QualityDock</name>
+    <message>
+        <source>Quality</source>
+        <translation>质量</translation>
+    </message>
+    <message>
+        <source>Colour by face</source>
+        <translation>按面着色</translation>
+    </message>
+    <message>
+        <source>By what the mesh is coloured</source>
+        <translation>网格的着色依据</translation>
+    </message>
+    <message>
+        <source>Worst elements</source>
+        <translation>最差单元</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>区域</translation>
+    </message>
+    <message>
+        <source>No mesh</source>
+        <translation>没有网格</translation>
+    </message>
+    <message>
+        <source>%1 of %2 elements</source>
+        <translation>%1，共 %2 个单元</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>最小值</translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation>中位数</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>平均值</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>最大值</translation>
+    </message>
+    <message>
+        <source>Not finite</source>
+        <translation>非有限值</translation>
+    </message>
+    <message>
+        <source>Inverted / flat</source>
+        <translation>反转 / 扁平</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::RegionTable</name>
+    <message>
+        <source>Region</source>
+        <translation>区域</translation>
+    </message>
+    <message>
+        <source>Elements</source>
+        <translation>单元数</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>最小值</translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation>中位数</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>平均值</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>最大值</translation>
+    </message>
+    <message>
+        <source>Not finite</source>
+        <translation>非有限值</translation>
+    </message>
+    <message>
+        <source>Inverted</source>
+        <translation>反转</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>扁平</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::RemovalQuestion</name>
     <message>
         <source>No other system is relative to it.</source>
@@ -1057,6 +1168,52 @@ Version %1</source>
     <message>
         <source>Delete %1?</source>
         <translation>删除 %1？</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::ScoreHistory</name>
+    <message>
+        <source>The mesh has no score: it could not be copied to %1, where the predictor reads.</source>
+        <translation>网格没有评分：无法将其复制到评分程序读取的位置 %1。</translation>
+    </message>
+    <message>
+        <source>The last score is not that of this mesh: it could not be copied to %1, where the predictor reads, or another program has written there.</source>
+        <translation>最后的评分不属于此网格：无法将其复制到评分程序读取的位置 %1，或另一个程序写入了该位置。</translation>
+    </message>
+    <message>
+        <source>The mesh has no score: the quality model %1 cannot be used: %2</source>
+        <translation>网格没有评分：质量模型 %1 无法使用：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::ScoreText</name>
+    <message>
+        <source>The score means nothing, because the mean of a metric is no finite number.</source>
+        <translation>评分没有意义，因为某项指标的平均值不是有限数。</translation>
+    </message>
+    <message>
+        <source>There is no score: the model gives no number for this mesh.</source>
+        <translation>没有评分：模型没有为此网格给出数值。</translation>
+    </message>
+    <message>
+        <source>Score %1 (0 worst, 1 best).</source>
+        <translation>评分 %1（0 最差，1 最好）。</translation>
+    </message>
+    <message>
+        <source>A mesh is scored when it is opened.</source>
+        <translation>打开网格时会对其评分。</translation>
+    </message>
+    <message>
+        <source>Model: %1.</source>
+        <translation>模型：%1。</translation>
+    </message>
+    <message>
+        <source>It is practically the mesh that was scored last, so the history has no new entry.</source>
+        <translation>它与上次评分的网格几乎相同，因此历史中没有新记录。</translation>
+    </message>
+    <message>
+        <source>Mean %1 %2 lies outside of the range that the model was trained on, %3 to %4.</source>
+        <translation>平均值 %1 %2 超出模型的训练范围 %3 至 %4。</translation>
     </message>
 </context>
 <context>
@@ -1086,6 +1243,37 @@ Version %1</source>
     <message>
         <source>The picture cannot be saved as %1.</source>
         <translation>无法将图片保存为 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::WorstList</name>
+    <message>
+        <source>Number:</source>
+        <translation>数量：</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>选中</translation>
+    </message>
+    <message>
+        <source>Selects the elements of the marked rows, or all of the list when none is marked</source>
+        <translation>选中标记行的单元；没有标记行时选中列表中的全部单元</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>单元</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>区域</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>数值</translation>
+    </message>
+    <message>
+        <source>A double click or Enter looks at the element</source>
+        <translation>双击或按 Enter 查看该单元</translation>
     </message>
 </context>
 </TS>
