@@ -84,6 +84,9 @@ KernelReading readKernelMesh(const QString& path, const KernelProgress& progress
     }
     mesh->elementNumbers = ElementNumbers(tagsOf(mesh->report));
     mesh->box = boxOf(mesh->report);
+    for (int element = 0; element < mesh->report.elementCount(); ++element) {
+        ++mesh->elementCounts[mesh->report.physicalTag(element)];
+    }
     makeSkin(*mesh, groups);
     return progress(1) ? KernelReading{mesh, false, {}} : KernelReading{{}, true, {}};
 }

@@ -14,6 +14,7 @@
 
 #include <array>
 #include <functional>
+#include <map>
 #include <vector>
 
 namespace Workbench {
@@ -26,6 +27,8 @@ struct KernelMesh
     ElementNumbers elementNumbers;
     std::vector<BoundaryFace> faces;
     std::vector<FacePatch> patches;
+    /// How many elements have that physical tag.
+    std::map<int, int> elementCounts;
     /// xmin, xmax, ymin, ymax, zmin, zmax.
     std::array<double, 6> box{};
 };

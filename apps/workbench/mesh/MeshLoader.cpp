@@ -32,9 +32,9 @@ KernelReading readOne(const MeshLoader::Job& job, const KernelProgress& progress
         return {{}, false, QStringLiteral("it cannot be copied to %1").arg(QDir::toNativeSeparators(job.copy))};
     }
     KernelReading reading = readKernelMesh(job.copy, progress);
-    if (!reading.mesh) {
+    if (!reading.mesh && QFileInfo(job.source) != QFileInfo(job.copy)) {
         QFile::remove(job.copy);
-    } else if (!job.otherCopy.isEmpty()) {
+    } else if (reading.mesh && !job.otherCopy.isEmpty()) {
         copyFile(job.copy, job.otherCopy);
     }
     return reading;

@@ -143,7 +143,13 @@ int MeshManager::getGroupPhysicalTag(int kernelID, int groupID) const
 
 int MeshManager::getGroupSize(int kernelID, int groupID) const
 {
-    return static_cast<int>(getGroupElements(kernelID, groupID).size());
+    const Group* found = group(kernelID, groupID);
+    if (found == nullptr) {
+        return 0;
+    }
+    const std::map<int, int>& counts = kernel(kernelID)->mesh->elementCounts;
+    const auto count = counts.find(found->physicalTag);
+    return found->physicalTag != 0 && count != counts.end() ? count->second : static_cast<int>(found->elements.size());
 }
 
 std::vector<char> MeshManager::shownElements(int kernelID) const

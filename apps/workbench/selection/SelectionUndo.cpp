@@ -45,6 +45,20 @@ QList<QPair<int, int>> without(const QList<QPair<int, int>>& pairs, const QList<
     return rest;
 }
 
+// What may not be picked, because it is hidden or gone, does not come back either.
+QList<QPair<int, int>> allowed(int selectModel, const QList<QPair<int, int>>& pairs)
+{
+    QList<QPair<int, int>> rest;
+    for (const QPair<int, int>& pair : pairs) {
+        bool isAllowed = true;
+        Q_EMIT IBaseSignal::getInstance()->signal_checkHighLight(isAllowed, selectModel, pair.first, pair.second);
+        if (isAllowed) {
+            rest.append(pair);
+        }
+    }
+    return rest;
+}
+
 class SelectionStep : public QUndoCommand
 {
 public:
@@ -104,7 +118,7 @@ void SelectionUndo::restore(const Selection& selection)
         }
     }
     for (auto it = selection.cbegin(); it != selection.cend(); ++it) {
-        const QList<QPair<int, int>> added = without(it.value(), now.value(it.key()));
+        const QList<QPair<int, int>> added = allowed(it.key(), without(it.value(), now.value(it.key())));
         if (!added.isEmpty()) {
             store->addSelectedTargetList(static_cast<BaseModule::SelectModel>(it.key()), added);
         }

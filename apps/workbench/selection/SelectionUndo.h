@@ -13,7 +13,7 @@ class QUndoStack;
 namespace Workbench {
 
 /// Makes every change of the selection undoable, whoever made it. Undoing goes through the selection store like any
-/// other change, and selects only what still exists. Opening a project or a mesh forgets all steps.
+/// other change, and selects only what still may be picked. Opening a project or a mesh forgets all steps.
 class SelectionUndo : public QObject
 {
     Q_OBJECT

@@ -280,6 +280,12 @@ void tst_MainWindow::undoOfSelection()
     QCOMPARE(selection->getDataCount(), 0);
     QVERIFY(!action("Undo selection")->isEnabled());
     QCOMPARE(SelectionUndo::instance()->stack()->count(), 3);
+    // What was hidden meanwhile does not come back.
+    selection->clickViewObject(1, -1);
+    GeometryManager::instance()->showComponents({1}, false);
+    press("Undo selection");
+    QCOMPARE(selection->getDataCount(), 0);
+    GeometryManager::instance()->showComponents({1}, true);
     // Another mesh leaves nothing to go back to.
     openMesh(samplePath("slivers.msh"));
     QVERIFY(!action("Redo selection")->isEnabled());

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void unreadableKeepsWhatIsOpen();
     void failedSaveKeepsTheFile();
     void refusesNamesOfOtherPlaces();
+    void cancelledReadingKeepsTheMeshFile();
     void geometryTravelsAlong();
     void recentProjects();
 
@@ -285,6 +286,17 @@ void tst_Project::refusesNamesOfOtherPlaces()
         QVERIFY(ProjectArchive::unpack(path("slip.zip"), path("out")).contains(QStringLiteral("damaged")));
         QVERIFY(QDir(path("out")).isEmpty());
     }
+}
+
+void tst_Project::cancelledReadingKeepsTheMeshFile()
+{
+    openMesh(samplePath("bearing-housing.msh"));
+    QVERIFY(Project::instance()->saveAs(path("cancelled.wbproj")));
+    QVERIFY(Project::instance()->open(path("cancelled.wbproj")));
+    MeshManager::instance()->cancelLoad();
+    QVERIFY(waitForMesh());
+    QCOMPARE(MeshManager::instance()->getKernelCount(), 0);
+    QVERIFY(QFileInfo(GlobalHelper::getProjectTempIODir() + QStringLiteral("/mesh-1.msh")).size() > 0);
 }
 
 void tst_Project::geometryTravelsAlong()

@@ -44,7 +44,7 @@ public:
 
     bool take(QWidget& window, const QString& name)
     {
-        QTest::qWait(400);
+        QTest::qWait(1500); // the window may be slow to draw
         const QPixmap picture = window.screen()->grabWindow(0, window.x(), window.y(), window.width(), window.height());
         return picture.toImage().scaledToWidth(1100, Qt::SmoothTransformation).save(m_directory + name);
     }
@@ -64,7 +64,7 @@ bool takeAll(MainWindow& window, Pictures& pictures)
     selection->setSelectModelInMainWindow(BaseModule::GeometryFace);
     const QList<int> volumes = GeometryManager::instance()->findComponents(QString());
     const QList<int> faces = GeometryManager::instance()->getFaces(volumes.value(0));
-    selection->addSelectedTargetList(BaseModule::GeometryFace, {{volumes.value(0), faces.value(0)}});
+    selection->addSelectedTargetList(BaseModule::GeometryFace, {{volumes.value(0), faces.value(1)}});
     isGood = isGood && pictures.take(window, QStringLiteral("/workbench-selection.png"));
     selection->clearAllSelectedTarget();
     MeshDisplay::instance()->colourByMetric(DataManager::MeshQualityReport::Metric::Shape);
