@@ -1196,16 +1196,8 @@ Version %1</translation>
         <translation>There is no score: the model gives no number for this mesh.</translation>
     </message>
     <message>
-        <source>Score %1 (0 worst, 1 best).</source>
-        <translation>Score %1 (0 worst, 1 best).</translation>
-    </message>
-    <message>
         <source>A mesh is scored when it is opened.</source>
         <translation>A mesh is scored when it is opened.</translation>
-    </message>
-    <message>
-        <source>Model: %1.</source>
-        <translation>Model: %1.</translation>
     </message>
     <message>
         <source>It is practically the mesh that was scored last, so the history has no new entry.</source>
@@ -1214,6 +1206,10 @@ Version %1</translation>
     <message>
         <source>Mean %1 %2 lies outside of the range that the model was trained on, %3 to %4.</source>
         <translation>Mean %1 %2 lies outside of the range that the model was trained on, %3 to %4.</translation>
+    </message>
+    <message>
+        <source>Score %1 (0 worst, 1 best)</source>
+        <translation>Score %1 (0 worst, 1 best)</translation>
     </message>
 </context>
 <context>

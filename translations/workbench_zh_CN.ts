@@ -1196,16 +1196,8 @@ Version %1</source>
         <translation>没有评分：模型没有为此网格给出数值。</translation>
     </message>
     <message>
-        <source>Score %1 (0 worst, 1 best).</source>
-        <translation>评分 %1（0 最差，1 最好）。</translation>
-    </message>
-    <message>
         <source>A mesh is scored when it is opened.</source>
         <translation>打开网格时会对其评分。</translation>
-    </message>
-    <message>
-        <source>Model: %1.</source>
-        <translation>模型：%1。</translation>
     </message>
     <message>
         <source>It is practically the mesh that was scored last, so the history has no new entry.</source>
@@ -1214,6 +1206,10 @@ Version %1</source>
     <message>
         <source>Mean %1 %2 lies outside of the range that the model was trained on, %3 to %4.</source>
         <translation>平均值 %1 %2 超出模型的训练范围 %3 至 %4。</translation>
+    </message>
+    <message>
+        <source>Score %1 (0 worst, 1 best)</source>
+        <translation>评分 %1（0 最差，1 最好）</translation>
     </message>
 </context>
 <context>

@@ -16,7 +16,7 @@ namespace Workbench {
 /// Has each mesh scored once it was read, and keeps what the library's predictor said of it.
 ///
 /// A mesh is scored in the thread of the user interface, because the predictor is used from one thread only. Two
-/// million tetrahedra then hold the window up for about 0.4 s, once after seconds of reading.
+/// million tetrahedra then hold the window up for about 0.3 s, once after seconds of reading.
 class ScoreHistory : public QObject
 {
     Q_OBJECT

@@ -58,9 +58,15 @@ QString verdict(const ScoreHistory& history)
     if (std::isnan(history.score())) {
         return ScoreText::tr("There is no score: the model gives no number for this mesh.");
     }
-    const QString explanation = printable(history.card().explanation(history.score()));
-    const QString text = ScoreText::tr("Score %1 (0 worst, 1 best).").arg(scoreNumber(history.score()));
-    return explanation.isEmpty() ? text : text + QLatin1Char(' ') + explanation;
+    return ScoreText::tr("Score %1 (0 worst, 1 best)").arg(scoreNumber(history.score()));
+}
+
+// Who gave the score, and what it says by its own words.
+QString model(const ScoreHistory& history)
+{
+    const QualityModelCard& card = history.card();
+    const QString explanation = areMeansFinite(history) ? card.explanation(history.score()) : QString();
+    return explanation.isEmpty() ? card.title() : card.title() + QStringLiteral(": ") + explanation;
 }
 
 } // namespace
@@ -78,14 +84,14 @@ QString scoreSentence(const ScoreHistory& history)
     QStringList sentences;
     if (isScored(history)) {
         sentences << verdict(history);
-        sentences << ScoreText::tr("Model: %1.").arg(printable(history.card().title()));
+        sentences << printable(model(history));
     }
     if (history.outcome() == ScoreHistory::Outcome::Unchanged) {
         sentences << ScoreText::tr("It is practically the mesh that was scored last, so the history has no new entry.");
     }
     sentences << printable(history.problemText());
     sentences.removeAll(QString());
-    return sentences.join(QLatin1Char(' '));
+    return sentences.join(QLatin1Char('\n'));
 }
 
 QStringList scoreWarnings(const ScoreHistory& history)

@@ -10,8 +10,8 @@ namespace Workbench {
 
 class ScoreHistory;
 
-/// What the score of the mesh that was read last says, in the interface language. Parts of it come from the model file,
-/// which anybody may have written: show it as plain text.
+/// What the score of the mesh that was read last says, a line a sentence, in the interface language. Parts of it come
+/// from the model file, which anybody may have written: show it as plain text.
 QString scoreSentence(const ScoreHistory& history);
 
 /// Why the score may say less: means outside of what the model was trained on. One line each; none without a score.

@@ -169,9 +169,8 @@ void tst_ScoreHistory::scoresEachSample()
     QCOMPARE(m_history->meshNames().last(), name);
     const QString explanation = m_history->card().explanation(m_history->score());
     QVERIFY(!explanation.isEmpty());
-    QCOMPARE(
-        shown(),
-        QStringLiteral("Score %1 (0 worst, 1 best). %2 Model: %3.").arg(score, explanation, m_history->card().title()));
+    QCOMPARE(shown(),
+             QStringLiteral("Score %1 (0 worst, 1 best)\n%2: %3").arg(score, m_history->card().title(), explanation));
     const auto* chart = m_panel->findChild<ScoreChart*>();
     QCOMPARE(chart->tip(9), name + QStringLiteral(": ") + score);
     QCOMPARE(chart->tip(9 - m_history->given()), QString());
@@ -285,7 +284,8 @@ void tst_ScoreHistory::invertedElement()
     QCOMPARE(m_history->outcome(), Outcome::Scored);
     QVERIFY(std::isnan(m_history->score()));
     QVERIFY2(shown().startsWith(
-                 QStringLiteral("The score means nothing, because the mean of a metric is no finite number.")),
+                 QStringLiteral("The score means nothing, because the mean of a metric is no finite number.\n") +
+                 m_history->card().title()),
              qPrintable(shown()));
     auto* chart = m_panel->findChild<ScoreChart*>();
     QCOMPARE(chart->tip(9), QStringLiteral("inverted: ") + QString::fromUtf8("–"));
