@@ -12,6 +12,8 @@
 
 using Workbench::NumberReading;
 
+Q_DECLARE_METATYPE(Workbench::NumberReading::Fault)
+
 namespace {
 
 quint64 bitsOf(double value)
@@ -121,6 +123,5 @@ void tst_NumberReading::refuses()
     }
 }
 
-Q_DECLARE_METATYPE(Workbench::NumberReading::Fault)
 QTEST_APPLESS_MAIN(tst_NumberReading)
 #include "tst_numberreading.moc"
