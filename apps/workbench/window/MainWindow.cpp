@@ -50,10 +50,11 @@ void MainWindow::createDocks()
     QDockWidget* messages = addDock(new MessagePanel(this), Qt::BottomDockWidgetArea);
     addDock(new MaterialDock(this), Qt::RightDockWidgetArea);
     addDock(new CoordinateDock(this), Qt::RightDockWidgetArea);
-    addDock(new QualityDock(this), Qt::RightDockWidgetArea);
+    QDockWidget* quality = addDock(new QualityDock(this), Qt::RightDockWidgetArea);
     // A room is added by one line: addDock(new View(this), Qt::RightDockWidgetArea);
     resizeDocks({messages}, {130}, Qt::Vertical);
-    resizeDocks({tree}, {300}, Qt::Horizontal);
+    resizeDocks({tree, quality}, {300, 440}, Qt::Horizontal);
+    quality->raise();
 }
 
 QDockWidget* MainWindow::addDock(QWidget* view, Qt::DockWidgetArea area, bool isBeside)
