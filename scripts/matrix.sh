@@ -50,5 +50,5 @@ for compiler in ${COMPILERS:-gcc clang}; do
   done
 done
 # The same figures from all of them.
-sha256sum build-matrix/*/report 2>/dev/null | cut -d' ' -f1 | sort -u | wc -l | grep -qx '[01]' ||
+{ sha256sum build-matrix/*/report 2>/dev/null || true; } | cut -d' ' -f1 | sort -u | wc -l | grep -qx '[01]' ||
   { echo "matrix: reports differ: build-matrix/*/report" >&2; exit 1; }
