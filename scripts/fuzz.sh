@@ -12,7 +12,7 @@ shift
 targets=("$@")
 [ "${#targets[@]}" -gt 0 ] || mapfile -t targets < <(find fuzz -name 'fuzz_*.cpp' -printf '%f\n' | sed 's/^fuzz_//; s/\.cpp$//' | sort)
 
-command -v clang++ >/dev/null 2>&1 || scripts/setup.sh --with-clang
+scripts/setup.sh --with-clang
 scripts/build.sh fuzz build-fuzz "${targets[@]/#/fuzz_}"
 
 fuzz() { # TARGET
