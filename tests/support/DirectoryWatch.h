@@ -34,9 +34,7 @@ public:
                 const auto* const event = reinterpret_cast<const inotify_event*>(place);
                 place += sizeof(inotify_event) + event->len;
                 if ((event->mask & IN_ISDIR) == 0 && event->len > 0) {
-                    events.append(
-                        ((event->mask & IN_ACCESS) != 0 ? QStringLiteral("read ") : QStringLiteral("moved ")) +
-                        QFile::decodeName(event->name));
+                    events.append(nameOf(event->mask) + QLatin1Char(' ') + QFile::decodeName(event->name));
                 }
             }
         }
