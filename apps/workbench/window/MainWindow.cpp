@@ -51,7 +51,6 @@ void MainWindow::createDocks()
     addDock(new MaterialDock(this), Qt::RightDockWidgetArea);
     addDock(new CoordinateDock(this), Qt::RightDockWidgetArea);
     QDockWidget* quality = addDock(new QualityDock(this), Qt::RightDockWidgetArea);
-    // A room is added by one line: addDock(new View(this), Qt::RightDockWidgetArea);
     resizeDocks({messages}, {130}, Qt::Vertical);
     resizeDocks({tree, quality}, {300, 440}, Qt::Horizontal);
     quality->raise();
