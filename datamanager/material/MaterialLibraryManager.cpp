@@ -57,7 +57,6 @@ MaterialLibraryManager::MaterialLibraryManager()
     : m_softwareLibPath(QCoreApplication::applicationDirPath() + QStringLiteral("/ConfigFiles/MaterialLibrary.json"))
 {
     initSoftwareMaterial();
-    m_projectNextMatID = m_projectMatMap.size() + 1;
 }
 
 void MaterialLibraryManager::initSoftwareMaterial()

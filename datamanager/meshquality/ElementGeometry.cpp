@@ -14,7 +14,7 @@ namespace {
 
 bool hasFigures(const QVector<QVector<double>>& edgeVectors, const QVector<QVector<double>>& edgeLengths, int element)
 {
-    return edgeVectors.size() == 6 && element < edgeLengths.size() && !edgeLengths.at(element).isEmpty();
+    return edgeVectors.size() == 6 && !edgeLengths.value(element).isEmpty();
 }
 
 QVector<QVector<double>> edgeTable(const QVector<QVector<double>>& corners)

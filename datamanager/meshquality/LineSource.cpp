@@ -91,34 +91,33 @@ void LineSource::acceptAbridged()
     m_end = head + kept;
     MarkerSearch markers;
     markers.take(head + headSize - MarkerSearch::overlap, m_end);
-    const char* const newline = passRest(head + headSize + MarkerSearch::longestResult, markers);
+    const char* const end = passRest(head + headSize + MarkerSearch::longestResult, markers);
     const QByteArray found = markers.found();
     const std::size_t size = headSize + static_cast<std::size_t>(found.size());
-    // Without a newline the file is at its end.
-    char* const line = newline == nullptr ? head : head + (newline - head) - size;
+    char* const line = head + (end - head) - size;
     std::memmove(line, head, headSize);
     std::memcpy(line + headSize, found.constData(), static_cast<std::size_t>(found.size()));
-    m_end = newline == nullptr ? line + size : m_end;
     m_position = line;
     m_dollar = nullptr;
-    accept(newline == nullptr ? m_end : newline + 1);
+    accept(end == m_end ? end : end + 1);
 }
 
 /// Reads to the end of the line, piece by piece to the same place, each behind the end of the one before. Where the
-/// line ends, or null at the end of the file.
+/// newline is, or the end of the file.
 const char* LineSource::passRest(char* place, MarkerSearch& markers)
 {
     char* const fresh = place + MarkerSearch::overlap;
-    const char* newline = nullptr;
-    std::size_t count = 1;
-    while (newline == nullptr && count > 0) {
+    while (true) {
         std::memmove(place, m_end - MarkerSearch::overlap, MarkerSearch::overlap);
-        count = readInto(fresh);
+        const std::size_t count = readInto(fresh);
         m_end = fresh + count;
-        newline = static_cast<const char*>(std::memchr(fresh, '\n', count));
-        markers.take(place, newline == nullptr ? m_end : newline);
+        const void* const newline = std::memchr(fresh, '\n', count);
+        const char* const end = newline == nullptr ? m_end : static_cast<const char*>(newline);
+        markers.take(place, end);
+        if (newline != nullptr || count == 0) {
+            return end;
+        }
     }
-    return newline;
 }
 
 bool LineSource::readPiece()
@@ -143,9 +142,9 @@ bool LineSource::readPiece()
 std::size_t LineSource::readInto(char* place)
 {
     const char* const end = m_buffer.data() + m_buffer.size();
-    const qint64 count = m_file.isOpen() ? m_file.read(place, end - place) : 0;
-    m_bytesRead += count > 0 ? count : 0;
-    return count > 0 ? static_cast<std::size_t>(count) : 0;
+    const qint64 count = m_file.isOpen() ? qMax(m_file.read(place, end - place), qint64(0)) : 0;
+    m_bytesRead += count;
+    return static_cast<std::size_t>(count);
 }
 
 } // namespace DataManager

@@ -53,16 +53,16 @@ void MeshHeader::takeGroupName(const QString& line)
 {
     const int quote = line.indexOf(QLatin1Char('"'));
     const QStringList fields = line.left(quote).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    if (quote > 0 && line.endsWith(QLatin1Char('"')) && fields.value(0) == QLatin1String("3")) {
+    if (line.endsWith(QLatin1Char('"')) && fields.value(0) == QLatin1String("3")) {
         m_groupNames.insert(fields.value(1).toInt(), line.mid(quote + 1, line.size() - quote - 2));
     }
 }
 
 bool MeshHeader::isReadable() const
 {
-    bool isNumber = false;
-    const double version = m_version.toDouble(&isNumber);
-    return isNumber && version >= 2.0 && version < 3.0 && m_fileType == QLatin1String("0");
+    // What is no number is 0.
+    const double version = m_version.toDouble();
+    return version >= 2.0 && version < 3.0 && m_fileType == QLatin1String("0");
 }
 
 QString MeshHeader::formatText() const

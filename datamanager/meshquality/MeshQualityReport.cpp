@@ -21,12 +21,7 @@ class MeshQualityReport::Scan : public MeshTables
 public:
     Scan(const QString& path, const Progress& progress) : m_source(path), m_progress(progress) {}
 
-    /// False when the file was not read to its end.
-    bool run()
-    {
-        scanMesh(m_source, *this);
-        return !m_isCancelled && m_isHeaderReadable;
-    }
+    void run() { scanMesh(m_source, *this); }
     bool isOpen() const { return m_source.isOpen(); }
     bool isCancelled() const { return m_isCancelled; }
 
@@ -59,7 +54,7 @@ public:
         }
         skippedLines.add(m_source.lineNumber(), SkipReason::ShortTetrahedron);
     }
-    bool outside(TextRange line) { return m_isHeaderReadable = header.take(line); }
+    bool outside(TextRange line) { return header.take(line); }
     bool proceeds()
     {
         constexpr qint64 linesBetweenCalls = 1 << 15;
@@ -104,7 +99,6 @@ private:
     LineSource m_source;
     const Progress& m_progress;
     bool m_isCancelled = false;
-    bool m_isHeaderReadable = true;
 };
 
 namespace {
@@ -210,11 +204,11 @@ bool MeshQualityReport::measureFile(const QString& path, const Progress& progres
     if (!scan.isOpen()) {
         return fail(Problem::Unreadable, QStringLiteral("cannot be opened"));
     }
-    const bool isComplete = scan.run();
+    scan.run();
     if (scan.isCancelled()) {
         return fail(Problem::Cancelled, QStringLiteral("cancelled"));
     }
-    if (!isComplete || !scan.header.isReadable()) {
+    if (!scan.header.isReadable()) {
         const QString format = scan.header.formatText();
         fail(Problem::WrongFormat, conversionAdvice(format, path));
         m_otherFormat = format;

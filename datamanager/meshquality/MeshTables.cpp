@@ -29,7 +29,6 @@ std::vector<std::size_t> MeshTables::removeUnconnected()
             removed.push_back(element);
         }
     }
-    m_doubtful.clear();
     removeAt(tetrahedra, removed);
     return removed;
 }

@@ -84,14 +84,12 @@ enum class Lock : int
 
 Lock tryLock(int descriptor)
 {
-    int result = 0;
-    do {
-        result = ::flock(descriptor, LOCK_EX | LOCK_NB);
-    } while (result != 0 && errno == EINTR);
-    if (result == 0) {
-        return Lock::Held;
+    while (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
+        if (errno != EINTR) {
+            return errno == EWOULDBLOCK ? Lock::HeldElsewhere : Lock::Unsupported;
+        }
     }
-    return errno == EWOULDBLOCK ? Lock::HeldElsewhere : Lock::Unsupported;
+    return Lock::Held;
 }
 
 /// Waits for another process that saves the same file, but not for one that hangs: the caller is the user interface.

@@ -17,12 +17,13 @@ namespace QJsonHelper {
 
 namespace {
 
-/// The records in the lists of a root object.
+/// The records in the lists of a root object that are read.
 qint64 recordCount(const QJsonObject& root, const QMetaObject& meta)
 {
     qint64 count = 0;
     for (auto member = root.begin(); member != root.end(); ++member) {
-        if (!member.value().isArray() || meta.indexOfProperty(member.key().toUtf8().constData()) < 0) {
+        const int property = meta.indexOfProperty(member.key().toUtf8().constData());
+        if (!member.value().isArray() || property < QObject::staticMetaObject.propertyCount()) {
             continue;
         }
         const QJsonArray elements = member.value().toArray();

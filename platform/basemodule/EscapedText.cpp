@@ -21,9 +21,10 @@ bool isHalfSurrogate(const QString& text, int position)
     return unit.isLowSurrogate() && (position == 0 || !text.at(position - 1).isHighSurrogate());
 }
 
+/// Of a unit that is no printable character of ASCII.
 bool isFragile(ushort unit)
 {
-    const bool isControl = unit < 0x20 || (unit >= 0x7f && unit < 0xa0);
+    const bool isControl = unit < 0xa0;
     const bool isNoncharacter = (unit >= 0xfdd0 && unit <= 0xfdef) || unit >= 0xfffe;
     return isControl || isNoncharacter || unit == QChar::ByteOrderMark;
 }

@@ -28,8 +28,6 @@ void fixLabel(vtkCaptionActor2D* label)
     label->GetTextActor()->SetTextScaleModeToNone();
     vtkTextProperty* const property = label->GetCaptionTextProperty();
     property->SetFontSize(labelFontSize);
-    property->SetFontFamilyToArial();
-    property->BoldOn();
     property->ItalicOff();
     property->ShadowOff();
 }

@@ -94,7 +94,7 @@ QByteArray sealedBytesOf(const QString& text)
     const auto letters = text.midRef(versionMark.size());
     const auto result = QByteArray::fromBase64Encoding(letters.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
     const QByteArray& sealed = result.decoded;
-    if (!result || sealed.isEmpty() || letters.size() != (sealed.size() + groupBytes - 1) / groupBytes * groupLetters) {
+    if (!result || letters.size() != (sealed.size() + groupBytes - 1) / groupBytes * groupLetters) {
         return {};
     }
     const QByteArray lastGroup = sealed.mid((sealed.size() - 1) / groupBytes * groupBytes).toBase64();

@@ -3,10 +3,11 @@
 
 #include "ChainModel.h"
 #include "CoordinateFiles.h"
-#include "LocaleScope.h"
 #include "RegistryFixture.h"
 
 #include <datamanager/coordinates/RelativeCoordinateSystemDateManager.h>
+
+#include <support/LocaleScope.h>
 
 #include <QTest>
 

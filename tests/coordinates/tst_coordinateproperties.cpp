@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 DataManager contributors
 // SPDX-License-Identifier: BSD-3-Clause
 
-#include "LocaleScope.h"
 #include "RegistryFixture.h"
+
+#include <support/LocaleScope.h>
 
 #include <QCoreApplication>
 #include <QTest>

@@ -225,6 +225,30 @@ private Q_SLOTS:
         QCOMPARE(bitsOf(system->m_rotateDirection), bitsOf(expected));
     }
 
+    void turnsLevelsThatDifferInOneAngle()
+    {
+        make(1, 0, {0, 0, pi / 2});
+        m_fixture->add(-1, 1);
+        RelativeCoordinateSystem system;
+        Rotations expected;
+        const double c = std::cos(pi / 2);
+        const double s = std::sin(pi / 2);
+        for (const QList<double>& level : Rotations{{0.5, 0.25, 1}, {0.75, 0.25, 1}, {0.75, 1, 1}, {0.75, 1, 2}}) {
+            setLevel(system, level, -1, 1);
+            expected.append({c * level[0] - s * level[1], s * level[0] + c * level[1], level[2]});
+        }
+        QCOMPARE(bitsOf(system.getRotateDirection()), bitsOf(expected));
+    }
+
+    void keepsLevelsWhoseOwnerIsMissing()
+    {
+        make(1, 0, {0, 0, pi / 2});
+        RelativeCoordinateSystem system;
+        setLevel(system, {0.5, 0.25, 1}, 77, 1);
+        const Rotations expected = {{0, 0, pi / 2}, {0.5, 0.25, 1}};
+        QCOMPARE(bitsOf(system.getRotateDirection()), bitsOf(expected));
+    }
+
     void agreesWithTheLiteralRule_data()
     {
         QTest::addColumn<int>("seed");

@@ -18,8 +18,51 @@ class TestKeptCopy : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void keepsBytesOnce_data();
+    void keepsBytesOnce();
+    void leavesADirectoryWhereItIs();
     void keepsWhatSeveralKeepAtOnce();
 };
+
+void TestKeptCopy::keepsBytesOnce_data()
+{
+    QTest::addColumn<QByteArray>("earlier");
+    QTest::addColumn<QByteArray>("bytes");
+    // They are compared in pieces of this size.
+    const QByteArray piece(65536, 'a');
+    QTest::newRow("same") << QByteArray(piece + "b") << QByteArray(piece + "b");
+    QTest::newRow("same, one whole piece") << piece << piece;
+    QTest::newRow("copy is longer") << QByteArray(piece + "b") << piece;
+    QTest::newRow("copy is shorter") << piece << QByteArray(piece + "b");
+    QTest::newRow("another first byte") << QByteArray("b" + piece) << QByteArray("a" + piece);
+    QTest::newRow("another last byte") << QByteArray(piece + "b") << QByteArray(piece + "c");
+}
+
+void TestKeptCopy::keepsBytesOnce()
+{
+    QFETCH(QByteArray, earlier);
+    QFETCH(QByteArray, bytes);
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(text("library"));
+    writeContent(path, bytes);
+    writeContent(path + text(".unreadable"), earlier);
+    QVERIFY(KeptCopy::keep(path, bytes));
+    QVERIFY(contentOf(path + text(".unreadable")) == earlier);
+    QVERIFY(contentOf(path + text(".unreadable.1")) == (earlier == bytes ? QByteArray() : bytes));
+    QCOMPARE(QDir(directory.path()).entryList(QDir::Files).size(), earlier == bytes ? 2 : 3);
+}
+
+/// Which stands where the copy would be made.
+void TestKeptCopy::leavesADirectoryWhereItIs()
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(text("library"));
+    QVERIFY(QDir().mkpath(path + text(".unreadable.new/somebody's")));
+    writeContent(path, "not a library");
+    QVERIFY(!KeptCopy::keep(path, "not a library"));
+    QVERIFY(QFileInfo(path + text(".unreadable.new/somebody's")).isDir());
+    QCOMPARE(QDir(directory.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 2);
+}
 
 /// Threads stand for processes: they share nothing but the directory.
 void TestKeptCopy::keepsWhatSeveralKeepAtOnce()

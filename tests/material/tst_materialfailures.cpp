@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 
 // Records that cannot be created or serialised. That does not happen with the records as they are, so this program
-// puts itself in front of two functions: Qt's creation of objects by meta-object and the serializer.
+// puts itself in front of two functions: Qt's creation of objects by meta-object and the serializer. The serializer is
+// also where the memory ends.
 
 #include "MaterialFixture.h"
 
@@ -14,6 +15,7 @@
 #include <QtTest>
 
 #include <dlfcn.h>
+#include <new>
 
 using DataManager::ExampleLibraryManager;
 using DataManager::MaterialLibraryManager;
@@ -22,6 +24,7 @@ namespace {
 
 bool isCreationFailing = false;
 bool isSerializationFailing = false;
+bool isMemoryShort = false;
 
 template <class Function>
 Function next(const char* mangledName)
@@ -53,6 +56,9 @@ QByteArray QJsonHelper::SerializerBase::serialize(const void* object, const QMet
 {
     using Function = QByteArray (*)(const void*, const QMetaObject&, bool);
     static const auto original = next<Function>("_ZN11QJsonHelper14SerializerBase9serializeEPKvRK11QMetaObjectb");
+    if (isMemoryShort) {
+        throw std::bad_alloc();
+    }
     return isSerializationFailing ? QByteArray() : original(object, meta, isIndented);
 }
 
@@ -65,9 +71,12 @@ private Q_SLOTS:
     void cleanup();
     void standsInFront();
     void logsMaterialsThatCannotBeCreated();
+    void startsWithoutMaterialsThatCannotBeCreated();
     void logsMaterialsThatCannotBeSerialized();
     void logsExamplesThatCannotBeCreated();
     void logsExamplesThatCannotBeSerialized();
+    void keepsMaterialsThatDoNotFitIntoTheMemory();
+    void keepsExamplesThatDoNotFitIntoTheMemory();
 
 private:
     std::unique_ptr<MaterialFixture> m_fixture;
@@ -82,6 +91,7 @@ void TestMaterialFailures::cleanup()
 {
     isCreationFailing = false;
     isSerializationFailing = false;
+    isMemoryShort = false;
     m_fixture.reset();
 }
 
@@ -130,6 +140,18 @@ void TestMaterialFailures::logsMaterialsThatCannotBeCreated()
                                      m_fixture->projectPath()));
 }
 
+void TestMaterialFailures::startsWithoutMaterialsThatCannotBeCreated()
+{
+    m_fixture->createSoftware(QStringLiteral("a"));
+    isCreationFailing = true;
+    LogLines log;
+    m_fixture->newManager();
+    QCOMPARE(log.take(), failedCreation("DataModel::MaterialDataArray")
+                             << QStringLiteral("Deserialize software material data array fail!"));
+    QCOMPARE(m_fixture->software(), QStringLiteral("next 1"));
+    QCOMPARE(m_fixture->project(), QStringLiteral("next 1"));
+}
+
 void TestMaterialFailures::logsMaterialsThatCannotBeSerialized()
 {
     m_fixture->createSoftware(QStringLiteral("a"));
@@ -171,6 +193,31 @@ void TestMaterialFailures::logsExamplesThatCannotBeSerialized()
     expectLine(QStringLiteral("serialize Example fail !"));
     manager->saveData();
     QCOMPARE(contentOf(path), QByteArray("{\"exampleList\":[]}"));
+}
+
+/// The library is filled by then, and is empty again.
+void TestMaterialFailures::keepsMaterialsThatDoNotFitIntoTheMemory()
+{
+    const QByteArray content = R"({"materialList":[{"id":1,"englishName":"a","colour":"red"}]})";
+    writeContent(m_fixture->softwarePath(), content);
+    isMemoryShort = true;
+    m_fixture->newManager();
+    isMemoryShort = false;
+    QCOMPARE(m_fixture->software(), QStringLiteral("next 1"));
+    m_fixture->createSoftware(QStringLiteral("new"));
+    QCOMPARE(contentOf(m_fixture->softwarePath() + QStringLiteral(".unreadable")), content);
+}
+
+void TestMaterialFailures::keepsExamplesThatDoNotFitIntoTheMemory()
+{
+    const QString path = QCoreApplication::applicationDirPath() + QStringLiteral("/ConfigFiles/ExampleLibrary.json");
+    const QByteArray content = R"({"exampleList":[{"englishTitle":"t","colour":"red"}]})";
+    writeContent(path, content);
+    isMemoryShort = true;
+    const std::unique_ptr<ExampleLibraryManager> manager(new ExampleLibraryManager);
+    isMemoryShort = false;
+    manager->saveData();
+    QCOMPARE(contentOf(path + QStringLiteral(".unreadable")), content);
 }
 
 QTEST_GUILESS_MAIN(TestMaterialFailures)

@@ -124,6 +124,15 @@ void TestMaterialListeners::mayChangeTheLibrary_data()
         },
         "4", "1:new 2:new 3:new 4:new next 5");
     row(
+        "clears and creates one fewer", 4,
+        [create](MaterialLibraryManager& m, int id) {
+            m.clearProjectMaterial();
+            for (int i = 0; i < 3; ++i) {
+                create(m, id);
+            }
+        },
+        "4", "1:new 2:new 3:new next 4");
+    row(
         "loads again", 4, [](MaterialLibraryManager& m, int) { m.initProjectMaterial(); }, "4",
         "1:a 2:b 3:c(deleted) 4:d next 5");
     row(

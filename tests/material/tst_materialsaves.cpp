@@ -3,6 +3,7 @@
 
 #include "MaterialFixture.h"
 
+#include <basemodule/GlobalConfig.h>
 #include <basemodule/GlobalHelper.h>
 #include <support/DirectoryWatch.h>
 #include <support/Nobody.h>
@@ -10,6 +11,7 @@
 #include <QDir>
 #include <QtTest>
 
+#include <fcntl.h>
 #include <functional>
 #include <sys/stat.h>
 
@@ -19,6 +21,31 @@ using Manager = DataManager::MaterialLibraryManager;
 using Change = std::function<void(Manager&)>;
 
 Q_DECLARE_METATYPE(Change)
+
+namespace {
+
+struct stat statusOf(const QString& path)
+{
+    struct stat status = {};
+    ::stat(QFile::encodeName(path).constData(), &status);
+    return status;
+}
+
+/// Until the file system's clock has moved on. `isTimeSetBack` leaves only the time of the change to tell.
+void replaceContent(const QString& path, const QByteArray& content, bool isTimeSetBack)
+{
+    const struct stat before = statusOf(path);
+    do {
+        QTest::qSleep(5);
+        writeContent(path, content);
+        const timespec times[] = {before.st_atim, before.st_mtim};
+        if (isTimeSetBack) {
+            QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0), 0);
+        }
+    } while (statusOf(path).st_ctim.tv_nsec / 1000000 == before.st_ctim.tv_nsec / 1000000);
+}
+
+} // namespace
 
 /// When libraries are saved, and where that is not possible.
 class TestMaterialSaves : public QObject
@@ -39,6 +66,10 @@ private Q_SLOTS:
     void doesNotWaitForPipes();
     void savesOnce_data();
     void savesOnce();
+    void keepsWhatWasDamagedMeanwhile_data();
+    void keepsWhatWasDamagedMeanwhile();
+    void keepsWhatAppearsAfterClearing();
+    void keepsWhatCouldNotBeRemoved();
 
 private:
     Manager& manager() { return m_fixture->manager(); }
@@ -273,6 +304,72 @@ void TestMaterialSaves::savesOnce()
     change(manager());
     QCOMPARE(software.take().count(text("moved MaterialLibrary.json")), softwareSaves);
     QCOMPARE(project.take().count(text("moved MaterialLibrary.json")), projectSaves);
+}
+
+void TestMaterialSaves::keepsWhatWasDamagedMeanwhile_data()
+{
+    QTest::addColumn<QByteArray>("beginning");
+    QTest::addColumn<char>("end");
+    QTest::addColumn<bool>("isCleared");
+    QTest::addColumn<bool>("isTimeSetBack");
+    const QByteArray library = R"({"materialList":[]})";
+    QTest::newRow("saved") << QByteArray("x") << 'x' << false << false;
+    QTest::newRow("saved, time set back") << QByteArray("x") << 'x' << false << true;
+    QTest::newRow("saved, another object") << QByteArray(R"({"colour":"red"})") << ' ' << false << true;
+    QTest::newRow("saved, letter behind the library") << library << 'x' << false << true;
+    QTest::newRow("cleared") << QByteArray("x") << 'x' << true << false;
+    QTest::newRow("cleared, time set back") << QByteArray("x") << 'x' << true << true;
+    QTest::newRow("cleared, another object") << QByteArray(R"({"colour":"red"})") << ' ' << true << true;
+    QTest::newRow("cleared, letter behind the library") << library << 'x' << true << true;
+}
+
+/// By another program after this one has saved it, without a change of its size.
+void TestMaterialSaves::keepsWhatWasDamagedMeanwhile()
+{
+    QFETCH(QByteArray, beginning);
+    QFETCH(char, end);
+    QFETCH(bool, isCleared);
+    QFETCH(bool, isTimeSetBack);
+    GlobalConfig::setIsDevelop(true);
+    m_fixture->createProject(text("a"));
+    const QString path = m_fixture->projectPath();
+    const QByteArray damaged = beginning.leftJustified(contentOf(path).size() - 1) + end;
+    replaceContent(path, damaged, isTimeSetBack);
+    isCleared ? manager().clearProjectMaterial() : m_fixture->createProject(text("b"));
+    QCOMPARE(contentOf(path + text(".unreadable")), damaged);
+    QCOMPARE(QFile::exists(path), !isCleared);
+}
+
+/// A library of somebody else, in place of the one that was known.
+void TestMaterialSaves::keepsWhatAppearsAfterClearing()
+{
+    GlobalConfig::setIsDevelop(true);
+    m_fixture->createProject(text("a"));
+    manager().clearProjectMaterial();
+    const QByteArray other = R"({"materialList":[{"id":1,"englishName":"theirs"}]})";
+    writeContent(m_fixture->projectPath(), other);
+    m_fixture->createProject(text("b"));
+    QCOMPARE(contentOf(m_fixture->projectPath() + text(".unreadable")), other);
+}
+
+/// Memory does not hold it any more.
+void TestMaterialSaves::keepsWhatCouldNotBeRemoved()
+{
+    m_fixture->createProject(text("a"));
+    const QString path = m_fixture->projectPath();
+    const QByteArray before = contentOf(path);
+    const auto readable = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+    QVERIFY(QFile::setPermissions(m_fixture->projectDirectory(), readable));
+    {
+        const Nobody nobody;
+        expectLine(text("Remove project material library file fail, please check path: %1.").arg(path));
+        manager().clearProjectMaterial();
+    }
+    QVERIFY(QFile::setPermissions(m_fixture->projectDirectory(), readable | QFile::WriteOwner));
+    QCOMPARE(contentOf(path), before);
+    m_fixture->createProject(text("b"));
+    QCOMPARE(contentOf(path + text(".unreadable")), before);
+    QCOMPARE(m_fixture->project(), text("1:b next 2"));
 }
 
 QTEST_GUILESS_MAIN(TestMaterialSaves)

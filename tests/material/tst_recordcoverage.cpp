@@ -31,6 +31,7 @@ class TestRecordCoverage : public QObject
 private Q_SLOTS:
     void covers_data();
     void covers();
+    void takesOtherTypesAsTheyAre();
     void countsValues();
     void staysWithinTheText();
 };
@@ -67,6 +68,9 @@ void TestRecordCoverage::covers_data()
     row(R"({"materialList":[[]]})", true, false);
     row(R"({"materialList":[{"id":2147483647},{"id":-2147483648},{"id":1.0},{"id":1e2}]})", true, true);
     row(R"({"materialList":[{"id":-2147483649}]})", true, false);
+    row(R"({"materialList":[{"property1":{"components":[0,1,8,9e9,-2]}}]})", true, true);
+    row(R"({"materialList":[{"property1":{"components":[/]}}]})", true, false);
+    row(R"({"materialList":[{"property1":{"components":[:]}}]})", true, false);
     row(R"({"materialList":[{"objectName":"x"}]})", true, false);
     row(R"({"materialList":[{"materialList":[]}]})", true, false);
     row(R"({"materialList":[{"isDeleted":null}]})", true, false);
@@ -85,6 +89,16 @@ void TestRecordCoverage::covers()
     QFETCH(bool, isComplete);
     const QVector<const QMetaObject*> otherClasses = {&OtherRecord::staticMetaObject};
     QCOMPARE(recordCoverage(json, isMaterials ? materialClasses : otherClasses).isComplete, isComplete);
+}
+
+/// Anything may stand where the type of a property is not known, and where no class is given for its records.
+void TestRecordCoverage::takesOtherTypesAsTheyAre()
+{
+    const QVector<const QMetaObject*> aboveRecords = {&OtherRecord::staticMetaObject,
+                                                      &DataModel::MaterialData::staticMetaObject};
+    QVERIFY(recordCoverage(R"({"number":1,"map":{"a":[null]}})", aboveRecords).isComplete);
+    const QVector<const QMetaObject*> withoutRecords = {&DataModel::MaterialDataArray::staticMetaObject};
+    QVERIFY(recordCoverage(R"({"materialList":7})", withoutRecords).isComplete);
 }
 
 void TestRecordCoverage::countsValues()

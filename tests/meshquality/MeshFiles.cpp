@@ -94,6 +94,8 @@ void addTokens(QList<QPair<QByteArray, QByteArray>>& files)
                                    "2\t",
                                    "2\r",
                                    "\r2",
+                                   "1\r2",
+                                   "1:",
                                    "",
                                    "-0",
                                    "0e0",

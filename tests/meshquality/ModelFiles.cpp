@@ -3,8 +3,11 @@
 
 #include "ModelFiles.h"
 
+#include "MeshFiles.h"
+
 #include <QFile>
 #include <QString>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -51,6 +54,14 @@ QByteArray ModelFiles::withMetadata(const QByteArray& model, const Metadata& met
     return result;
 }
 
+// Of the graphs that stand one behind the other, too.
+QByteArray ModelFiles::withOutput(const QByteArray& model)
+{
+    const QByteArray node = field(1, "value") + field(2, "more") + field(4, "Identity");
+    const QByteArray type = field(1, "\x08\x07");
+    return model + field(7, field(1, node) + field(12, field(1, "more") + field(2, type)));
+}
+
 QByteArray ModelFiles::described()
 {
     return withMetadata(
@@ -65,4 +76,11 @@ QByteArray ModelFiles::described()
          {"featureOrder", R"(["Volume", "EdgeRatio", "AspectRatio", "AspectGamma", "Condition", "Jacobian", )"
                           R"("RadiusRatio", "RelativeSizeSquared", "ScaledJacobian", "Shape", "ShapeAndSize"])"},
          {"trainingRanges", R"({"Volume": null, "Shape": [0.5, 0.9]})"}});
+}
+
+QString ModelFiles::placed(const QTemporaryDir& directory, const QByteArray& content)
+{
+    const QString path = directory.filePath(QStringLiteral("a %1 é.onnx"));
+    MeshFiles::write(path, content);
+    return path;
 }

@@ -6,6 +6,9 @@
 #include <QByteArray>
 #include <QList>
 #include <QPair>
+#include <QString>
+
+class QTemporaryDir;
 
 /// Model files for the tests.
 namespace ModelFiles {
@@ -19,8 +22,14 @@ QByteArray shipped();
 /// The model with these entries behind those that it has.
 QByteArray withMetadata(const QByteArray& model, const Metadata& metadata);
 
+/// A model of the tests with one constant as output, and with another output, of integers, behind it.
+QByteArray withOutput(const QByteArray& model);
+
 /// The model "last-feature", whose score is the last feature, with a card in which nothing is missing: its
 /// `explanation` takes both figures, Shape was trained on 0.5 to 0.9, Volume on any value, and the rest is not known.
 QByteArray described();
+
+/// Writes a model into the directory, always under the same name, which needs care; its path.
+QString placed(const QTemporaryDir& directory, const QByteArray& content);
 
 } // namespace ModelFiles

@@ -127,6 +127,10 @@ void ElementGeometryTest::computesFigures_data()
     QTest::newRow("right corner") << rightCorner << Values{(3 + root3) / 2, root2, 1, 0.5, 1 / (3 + root3), 1.0 / 6};
     QTest::newRow("inverted") << MeshFiles::inverted(rightCorner)
                               << Values{(3 + root3) / 2, root2, 1, -0.5, -1 / (3 + root3), -1.0 / 6};
+    // The faces are 6, 18, 24 and, by their squares, 6 sqrt(26); |L3|^2 |L2 x L0| / (12 V) is 144 * 12 / 288.
+    QTest::newRow("legs of 3, 4 and 12")
+        << Points{{0, 0, 0}, {3, 0, 0}, {0, 4, 0}, {0, 0, 12}}
+        << Values{48 + 6 * std::sqrt(26.0), 4 * std::sqrt(10.0), 3, 6, 72 / (48 + 6 * std::sqrt(26.0)), 24};
     const double edge = 2;
     QTest::newRow("regular") << MeshFiles::regular(edge)
                              << Values{root3 * edge * edge,
@@ -143,6 +147,12 @@ void ElementGeometryTest::computesFigures_data()
                                  << Values{infinity, infinity, infinity, notANumber, notANumber, infinity};
     QTest::newRow("vanishing") << Points{{0, 0, 0}, {1e-320, 0, 0}, {0, 1e-320, 0}, {0, 0, 1e-320}}
                                << Values{0, 0, 0, notANumber, notANumber, 0};
+    // Differences of such coordinates are exact.
+    const double far = 1e9;
+    const double leg = 1.0 / 1024;
+    QTest::newRow("tiny and far away")
+        << Points{{far, far, far}, {far + leg, far, far}, {far, far + leg, far}, {far, far, far + leg}}
+        << Values{(3 + root3) / 2 * leg * leg, root2 * leg, leg, leg / 2, leg / (3 + root3), leg * leg * leg / 6};
 }
 
 void ElementGeometryTest::computesFigures()

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void leavesInputAloneWithoutFile();
     void averagesOneElement();
     void averagesInOrder();
+    void averagesAnyNumber_data();
+    void averagesAnyNumber();
     void hasNoMeansWithoutTetrahedra_data();
     void hasNoMeansWithoutTetrahedra();
     void doesNotReadNodeNumbers();
@@ -82,6 +84,43 @@ void FeatureVectorTest::averagesInOrder()
     // 1/6 of a mean of 3/4 is 2/9; 3/4 of 8/6 is 9/16.
     QCOMPARE(features[7], static_cast<float>((2.0 / 9 + 9.0 / 16) / 2));
     QCOMPARE(features[8], std::sqrt(0.5F));
+}
+
+void FeatureVectorTest::averagesAnyNumber_data()
+{
+    QTest::addColumn<int>("count");
+    for (const int count : {1, 2, 3, 4, 5, 7, 8, 9}) {
+        QTest::addRow("%d", count) << count;
+    }
+}
+
+// Elements may be measured several at a time. Element i has its own four nodes; its legs are 1, i + 1 and (i + 1)^2, in
+// turn along each axis.
+void FeatureVectorTest::averagesAnyNumber()
+{
+    QFETCH(int, count);
+    QList<QByteArray> nodes;
+    QList<QByteArray> elements;
+    double volumes = 0.0;
+    for (int i = 0; i < count; ++i) {
+        const int first = nodes.size() + 1;
+        const std::array<int, 3> legs{1, i + 1, (i + 1) * (i + 1)};
+        for (int corner = 0; corner < 4; ++corner) {
+            std::array<int, 3> point{i, 2 * i, -i};
+            if (corner > 0) {
+                point[std::size_t(corner - 1)] += legs[std::size_t((corner + i) % 3)];
+            }
+            nodes.append("1 " + QByteArray::number(point[0]) + ' ' + QByteArray::number(point[1]) + ' ' +
+                         QByteArray::number(point[2]));
+        }
+        elements.append("1 4 2 0 1 " + QByteArray::number(first) + ' ' + QByteArray::number(first + 1) + ' ' +
+                        QByteArray::number(first + 2) + ' ' + QByteArray::number(first + 3));
+        volumes += std::pow(i + 1, 3) / 6;
+    }
+    MeshFiles::write(path(), MeshFiles::mesh(nodes, elements));
+    const Features features = input();
+    QCOMPARE(features[0], static_cast<float>(volumes / count));
+    QVERIFY(SameValues::same(features, LiteralPipeline::features(path())));
 }
 
 void FeatureVectorTest::hasNoMeansWithoutTetrahedra_data()

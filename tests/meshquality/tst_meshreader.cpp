@@ -7,10 +7,13 @@
 
 #include <datamanager/meshquality/MeshQualityPredict.h>
 
+#include <support/LocaleScope.h>
+
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 using DataManager::MeshQualityPredict;
 using Nodes = QVector<QVector<double>>;
@@ -25,6 +28,9 @@ private Q_SLOTS:
     void readsLines();
     void findsMarkersInLongLines_data();
     void findsMarkersInLongLines();
+    void readsOnAfterLongLines_data();
+    void readsOnAfterLongLines();
+    void findsNoMarkersThatAreNotThere();
     void appendsToTables();
     void countsNodesAlreadyThere();
     void hasNoLinesWithoutRegularFile_data();
@@ -32,6 +38,9 @@ private Q_SLOTS:
     void agreesWithLineByLineReader_data();
     void agreesWithLineByLineReader();
     void agreesOnEveryShortNumber();
+    void readsNumbersAlikeUnderEveryLocale_data();
+    void readsNumbersAlikeUnderEveryLocale();
+    void givesItsMemoryBack();
     void looksUpCorners();
     void leavesElementsWithoutNodesEmpty_data();
     void leavesElementsWithoutNodesEmpty();
@@ -52,6 +61,21 @@ namespace {
 const Nodes rightCorner = MeshFiles::rightCorner();
 const QList<QByteArray> rightCornerLines{"1 0 0 0", "2 1 0 0", "3 0 1 0", "4 0 0 1"};
 
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool isMemoryMeasurable = false;
+#else
+constexpr bool isMemoryMeasurable = true;
+#endif
+
+/// Addresses of this process that are in use, in bytes.
+quint64 usedMemory()
+{
+    QFile status(QStringLiteral("/proc/self/statm"));
+    return status.open(QIODevice::ReadOnly)
+               ? status.readAll().split(' ').first().toULong() * static_cast<quint64>(sysconf(_SC_PAGESIZE))
+               : 0;
+}
+
 } // namespace
 
 void MeshReaderTest::readsLines_data()
@@ -67,7 +91,9 @@ void MeshReaderTest::readsLines_data()
     };
     row("three nodes", {"1 0 0 0", "2 1 0 0", "3 0 1 0"}, {}, {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}}, {});
     row("node numbers are not read", {"10 0 0 0", "20 1 0 0", "30 0 1 0"}, {}, {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}}, {});
-    row("only type 4", rightCornerLines, {"1 15 2 0 1 1", "5 2 2 0 1 1 2 3", "9 4 2 0 1 1 2 3 4", "6 04 2 0 1 1 2 3 4"},
+    row("only type 4", rightCornerLines,
+        {"1 15 2 0 1 1", "5 2 2 0 1 1 2 3", "9 4 2 0 1 1 2 3 4", "6 04 2 0 1 1 2 3 4", "7 40 2 0 1 1 2 3 4",
+         "8 5 2 0 1 1 2 3 4 1 2 3 4"},
         rightCorner, first);
     row("tag count is not read", rightCornerLines, {"9 4 3 0 1 1 2 3 4"}, rightCorner, first);
     row("columns after the ninth are not read", rightCornerLines, {"9 4 2 0 1 1 2 3 4 9"}, rightCorner, first);
@@ -80,8 +106,25 @@ void MeshReaderTest::readsLines_data()
         first);
     row("missing nodes", rightCornerLines,
         {"1 4 2 0 1 0 2 3 4", "2 4 2 0 1 1 -1 3 4", "3 4 2 0 1 1 2 5 4", "4 4 2 0 1 1 2 3 2000000000",
-         "5 4 2 0 1 1 2 3 99999999999", "9 4 2 0 1 1 2 3 4"},
+         "5 4 2 0 1 1 2 3 99999999999", "6 4 2 0 1 1 2 3 4294967300", "9 4 2 0 1 1 2 3 4"},
         rightCorner, first);
+
+    // As a digit it would be ten.
+    row("a colon is no digit", QList<QByteArray>::fromVector(QVector<QByteArray>(10, "1 1 2 3")),
+        {"9 4 2 0 1 : 1 2 3", "9 4 2 0 1 10 2 3 4"}, Nodes(10, {1, 2, 3}), {{10, 2, 3, 4}});
+    const QByteArray zeros(300000, '0');
+    row("a node line that is longer than a piece", {"1 1." + zeros + " 2 3", "2 4 5 6"}, {}, {{1, 2, 3}, {4, 5, 6}},
+        {});
+    row("an element line that is longer than a piece", rightCornerLines,
+        {"9 4 2 " + zeros + " 1 1 2 3 4", "8 4 2 0 1 4 3 2 1"}, rightCorner, {{1, 2, 3, 4}, {4, 3, 2, 1}});
+    // What the quick conversion does not take on: a sign of plus.
+    const QByteArray million(1 << 20, '0');
+    row("a number as long as numbers may be", {"1 +" + million.mid(2) + "1 2 3"}, {}, {{1, 2, 3}}, {});
+    row("plain numbers of any length",
+        {"1 1." + million + "1 0.5" + million + "1 9." + million + "9", "2 2." + million + " 2 -3." + million,
+         "3 1 2 4." + million + "\r"},
+        {}, {{1, 0.5, 9}, {2, 2, -3}, {1, 2, 4}}, {});
+    row("longer than any number", {"1 +" + million.mid(1) + "1 2 3"}, {}, {{0, 2, 3}}, {});
 
     const QByteArray good = MeshFiles::mesh(rightCornerLines, {"9 4 2 0 1 1 2 3 4"});
     QTest::newRow("CRLF") << QByteArray(good).replace("\n", "\r\n") << rightCorner << first;
@@ -146,6 +189,49 @@ void MeshReaderTest::findsMarkersInLongLines()
     m_predict.get_Nodes_Elements(file(content), nodes, elements);
     QCOMPARE(nodes, (Nodes{{1, 2, 3}, {4, 5, 6}}));
     QCOMPARE(elements, (Elements{{1, 1, 1, 1}}));
+}
+
+void MeshReaderTest::readsOnAfterLongLines_data()
+{
+    QTest::addColumn<int>("before");
+    QTest::addColumn<int>("length");
+    for (const int before : {0, 1000, 8192, 100000}) {
+        for (const int length : {131072, 200000, 262144, 300000, 900000}) {
+            QTest::addRow("%d, then %d", before, length) << before << length;
+        }
+    }
+}
+
+// The file ends within the nodes. Were a place lost that belongs to a long line, the marker behind it would not be
+// found, or more nodes in what the buffer still holds of the line.
+void MeshReaderTest::readsOnAfterLongLines()
+{
+    QFETCH(int, before);
+    QFETCH(int, length);
+    const QByteArray start = QByteArray("9 9 9 9\n").repeated(before / 8 + 1);
+    const QByteArray longText = QByteArray(" 7").repeated(length / 2);
+    const QByteArray content =
+        start + longText + "$Nodes\n1\n1 1 2 3\n$EndNodes\n" + start + longText + "\n$Nodes\n2 4 5 6\n";
+    Nodes nodes;
+    Elements elements;
+    m_predict.get_Nodes_Elements(file(content), nodes, elements);
+    QCOMPARE(nodes, (Nodes{{1, 2, 3}, {4, 5, 6}}));
+    QCOMPARE(elements, Elements{});
+}
+
+// The first piece ends within the long line. Its start is moved to the front of the buffer, so that its last eight
+// bytes stand there twice, "desxx$No" behind "$No".
+void MeshReaderTest::findsNoMarkersThatAreNotThere()
+{
+    const QByteArray before = "8 8 8 8\n";
+    const QByteArray end = "desxx$No";
+    QCOMPARE(end.size(), before.size());
+    const QByteArray content = before + QByteArray((1 << 18) - before.size() - end.size(), 'x') + end +
+                               QByteArray(100, 'x') + "\n1\n1 1 2 3\n";
+    Nodes nodes;
+    Elements elements;
+    m_predict.get_Nodes_Elements(file(content), nodes, elements);
+    QCOMPARE(nodes, Nodes{});
 }
 
 void MeshReaderTest::appendsToTables()
@@ -245,6 +331,43 @@ void MeshReaderTest::agreesOnEveryShortNumber()
     }
     QVERIFY(SameValues::same(elements, LiteralPipeline::read(path).elements));
     QVERIFY(elements.size() > 100);
+}
+
+void MeshReaderTest::readsNumbersAlikeUnderEveryLocale_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::newRow("C") << QLocale::c();
+    QTest::newRow("German") << QLocale(QLocale::German, QLocale::Germany);
+    QTest::newRow("Arabic") << QLocale(QLocale::Arabic, QLocale::Egypt);
+    QTest::newRow("Chinese") << QLocale(QLocale::Chinese, QLocale::China);
+}
+
+/// A comma, a grouped number and digits of other scripts are no numbers, which is 0.
+void MeshReaderTest::readsNumbersAlikeUnderEveryLocale()
+{
+    QFETCH(QLocale, locale);
+    const LocaleScope scope(locale);
+    const QString path = file(MeshFiles::mesh({"1 0.5 1,5 1e-1", "2 1.000,5 1,000.5 -2.25", "3 ١ ٢ 4"}, {}));
+    Nodes nodes;
+    Elements elements;
+    m_predict.get_Nodes_Elements(path, nodes, elements);
+    QCOMPARE(nodes, (Nodes{{0.5, 0, 0.1}, {0, 0, -2.25}, {0, 0, 4}}));
+}
+
+void MeshReaderTest::givesItsMemoryBack()
+{
+    if (!isMemoryMeasurable) {
+        QSKIP("the sanitizer has memory of its own");
+    }
+    const QString path = file(MeshFiles::oneTetrahedron(MeshFiles::rightCorner()));
+    const quint64 before = usedMemory();
+    for (int i = 0; i < 400; ++i) {
+        Nodes nodes;
+        Elements elements;
+        m_predict.get_Nodes_Elements(path, nodes, elements);
+    }
+    // One of the buffers has 256 kB.
+    QVERIFY(usedMemory() < before + (quint64(20) << 20));
 }
 
 void MeshReaderTest::looksUpCorners()

@@ -7,6 +7,7 @@
 #include <QDir>
 
 #include <cmath>
+#include <utility>
 
 using DataManager::MeshQualityPredict;
 
@@ -16,6 +17,8 @@ class ModelInferenceTest : public PredictionTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { qunsetenv("ORT_DISABLE_TELEMETRY"); }
+    void leavesNoVariableBehind();
     void throwsWhenTheModelCannotBeLoaded_data();
     void throwsWhenTheModelCannotBeLoaded();
     void throwsWhenTheModelDoesNotFit_data();
@@ -27,8 +30,16 @@ private Q_SLOTS:
     void usesTheGivenInputSize();
     void warnsOfMissingInputSize();
     void throwsWithoutModelOrInput();
+    void throwsWithoutRuntime();
     void replacesTheModelOnlyByAGoodOne();
 };
+
+void ModelInferenceTest::leavesNoVariableBehind()
+{
+    MeshQualityPredict predict;
+    predict.loadModel(QFile::encodeName(fixture("volume")).constData(), "onnx::Gemm_0", "19");
+    QVERIFY(!qEnvironmentVariableIsSet("ORT_DISABLE_TELEMETRY"));
+}
 
 void ModelInferenceTest::throwsWhenTheModelCannotBeLoaded_data()
 {
@@ -181,15 +192,33 @@ void ModelInferenceTest::throwsWithoutModelOrInput()
     MeshQualityPredict predict;
     predict.setFigureParameter(11);
     float values[11] = {};
-    QVERIFY_EXCEPTION_THROWN(predict.inferFigure(values), Ort::Exception);
+    const auto complaint = [&predict](void* input) {
+        try {
+            predict.inferFigure(input);
+        } catch (const Ort::Exception& error) {
+            return QByteArray(error.what());
+        }
+        return QByteArray();
+    };
+    QCOMPARE(complaint(values), QByteArray("No model is loaded"));
     QVERIFY_EXCEPTION_THROWN(predict.loadModel(nullptr, nullptr, nullptr), Ort::Exception);
     predict.loadModel(QFile::encodeName(fixture("above-one")).constData(), "onnx::Gemm_0", "19");
-    QVERIFY_EXCEPTION_THROWN(predict.inferFigure(nullptr), Ort::Exception);
+    QCOMPARE(complaint(nullptr), QByteArray("No input is given"));
     // The names belong to the instance that loaded the model.
     MeshQualityPredict other;
     other.setFigureParameter(11);
     QVERIFY_EXCEPTION_THROWN(other.inferFigure(values), Ort::Exception);
     QCOMPARE(predict.inferFigure(values), 1.0F);
+}
+
+void ModelInferenceTest::throwsWithoutRuntime()
+{
+    MeshQualityPredict predict;
+    const OrtApi* const functions = std::exchange(MeshQualityPredict::s_ortApi, nullptr);
+    const QByteArray model = QFile::encodeName(fixture("above-one"));
+    QVERIFY_EXCEPTION_THROWN(predict.loadModel(model.constData(), "onnx::Gemm_0", "19"), Ort::Exception);
+    MeshQualityPredict::s_ortApi = functions;
+    QVERIFY(MeshQualityPredict::s_session == nullptr);
 }
 
 void ModelInferenceTest::replacesTheModelOnlyByAGoodOne()

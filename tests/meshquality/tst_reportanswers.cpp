@@ -96,6 +96,12 @@ void ReportAnswersTest::summarizesAroundNonFiniteValues()
     QCOMPARE(s.maximum, 3.0);
     QCOMPARE(s.mean, 2.0);
     QCOMPARE(s.nonFinite, 3);
+    // What was removed is not read again.
+    const MeshQualityReport::Summary one = Distribution::summary({7, notANumber});
+    QCOMPARE(one.percentile1, 7.0);
+    QCOMPARE(one.median, 7.0);
+    QCOMPARE(one.percentile99, 7.0);
+    QCOMPARE(Distribution::summary({-infinity, 1, 2, 3, notANumber}).median, 2.0);
 }
 
 void ReportAnswersTest::findsPercentilesOfManyValues()

@@ -103,7 +103,69 @@ public:
     QDate date;
 };
 
+/// Has a meta-object, but is no record.
+struct Span
+{
+    Q_GADGET
+    Q_PROPERTY(qint64 length MEMBER length)
+
+public:
+    qint64 length = 1;
+};
+
+class SpanRecord : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(Span span READ getSpan WRITE setSpan)
+
+public:
+    Q_INVOKABLE SpanRecord() = default;
+
+    Span getSpan() const { return span; }
+    void setSpan(Span value) { span = value; }
+
+    Span span;
+};
+
+Q_DECLARE_METATYPE(Span)
+
+/// Its list holds records of its own kind.
+class TreeRecord : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QList<QSharedPointer<TreeRecord>> branches MEMBER branches)
+
+public:
+    Q_INVOKABLE TreeRecord() = default;
+
+    QList<QSharedPointer<TreeRecord>> branches;
+};
+
+/// Nothing can create it but code that names it.
+class ClosedRecord : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(int value MEMBER value)
+
+public:
+    ClosedRecord() = default;
+
+    int value = 5;
+};
+
+class ClosedOwner : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(ClosedRecord* pointer MEMBER pointer)
+
+public:
+    Q_INVOKABLE ClosedOwner() = default;
+
+    ClosedRecord* pointer = nullptr;
+};
+
 namespace {
-const bool recordsAreRegistered =
-    QJsonHelper::registerRecordType<InnerRecord>() && QJsonHelper::registerRecordType<ChainRecord>();
+const bool recordsAreRegistered = QJsonHelper::registerRecordType<InnerRecord>() &&
+                                  QJsonHelper::registerRecordType<ChainRecord>() &&
+                                  QJsonHelper::registerRecordType<TreeRecord>();
 }

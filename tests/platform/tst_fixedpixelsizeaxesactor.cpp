@@ -6,13 +6,18 @@
 #include <QTest>
 
 #include <vtkCamera.h>
+#include <vtkCaptionActor2D.h>
 #include <vtkGenericOpenGLRenderWindow.h>
 #include <vtkMatrix4x4.h>
 #include <vtkNew.h>
+#include <vtkProperty.h>
 #include <vtkRenderer.h>
+#include <vtkTextActor.h>
+#include <vtkTextProperty.h>
 
 #include <array>
 #include <cmath>
+#include <sstream>
 
 using BaseWidget::FixedPixelSizeAxesActor;
 
@@ -86,6 +91,46 @@ private Q_SLOTS:
         QCOMPARE(QByteArray(actor->GetZAxisLabelText()), QByteArray("A"));
     }
 
+    void writesItsLabelsInPoints()
+    {
+        vtkNew<FixedPixelSizeAxesActor> actor;
+        for (vtkCaptionActor2D* const label :
+             {actor->GetXAxisCaptionActor2D(), actor->GetYAxisCaptionActor2D(), actor->GetZAxisCaptionActor2D()}) {
+            QCOMPARE(label->GetTextActor()->GetTextScaleMode(), int(vtkTextActor::TEXT_SCALE_MODE_NONE));
+            vtkTextProperty* const property = label->GetCaptionTextProperty();
+            QCOMPARE(property->GetFontSize(), 14);
+            QCOMPARE(property->GetFontFamily(), VTK_ARIAL);
+            QCOMPARE(property->GetBold(), 1);
+            QCOMPARE(property->GetItalic(), 0);
+            QCOMPARE(property->GetShadow(), 0);
+        }
+    }
+
+    void tellsItsSizeWhenPrinted()
+    {
+        vtkNew<FixedPixelSizeAxesActor> actor;
+        actor->SetPixelSize(96);
+        std::ostringstream text;
+        actor->Print(text);
+        QVERIFY(text.str().find("  PixelSize: 96\n") != std::string::npos);
+        QVERIFY(text.str().find("AxisLabels") != std::string::npos);
+    }
+
+    void isRescaledWhenItIsDrawn()
+    {
+        View view;
+        vtkNew<FixedPixelSizeAxesActor> actor;
+        // Nothing of it is opaque, so nothing is drawn into the window that was never opened.
+        actor->AxisLabelsOff();
+        for (vtkProperty* const part :
+             {actor->GetXAxisShaftProperty(), actor->GetYAxisShaftProperty(), actor->GetZAxisShaftProperty(),
+              actor->GetXAxisTipProperty(), actor->GetYAxisTipProperty(), actor->GetZAxisTipProperty()}) {
+            part->SetOpacity(0.5);
+        }
+        QCOMPARE(actor->RenderOpaqueGeometry(view.renderer), 0);
+        QVERIFY(std::abs(view.pixelsBetween({0, 0, 0}, tipOf(*actor, 0)) - 80) < 1e-6);
+    }
+
     void keepsItsSizeOnTheScreen_data()
     {
         QTest::addColumn<bool>("isParallel");
@@ -137,6 +182,19 @@ private Q_SLOTS:
         }
     }
 
+    void followsAnObliqueView()
+    {
+        View view;
+        view.camera()->SetPosition(2, 3, 6);
+        vtkNew<FixedPixelSizeAxesActor> actor;
+        actor->Rescale(view.renderer);
+        // 7 from the camera, whose view is 30 degrees high.
+        const double expected = 80 * 2 * 7 * std::tan(std::acos(-1.0) / 12) / windowHeight;
+        for (int axis = 0; axis < 3; ++axis) {
+            QVERIFY(std::abs(actor->GetTotalLength()[axis] - expected) < 1e-12);
+        }
+    }
+
     void usesTheAreaOfItsRenderer()
     {
         View view;
@@ -153,6 +211,41 @@ private Q_SLOTS:
         vtkNew<FixedPixelSizeAxesActor> actor;
         actor->Rescale(view.renderer);
         QVERIFY(std::abs(view.pixelsBetween({0, 0, 0}, tipOf(*actor, 0)) - 80) < 1e-6);
+    }
+
+    void fitsAViewOfOnePixel_data()
+    {
+        QTest::addColumn<bool>("isParallel");
+        // Half of the field of 30 degrees at 10, and a parallel scale of 5, to either side of the middle.
+        QTest::addColumn<double>("lengthOfPixel");
+        QTest::newRow("perspective") << false << 20 * std::tan(std::acos(-1.0) / 12);
+        QTest::newRow("parallel") << true << 10.0;
+    }
+    void fitsAViewOfOnePixel()
+    {
+        QFETCH(bool, isParallel);
+        QFETCH(double, lengthOfPixel);
+        View view;
+        view.window->SetSize(1, 1);
+        view.camera()->SetParallelProjection(isParallel);
+        view.camera()->SetParallelScale(5);
+        vtkNew<FixedPixelSizeAxesActor> actor;
+        actor->Rescale(view.renderer);
+        QVERIFY(std::abs(actor->GetTotalLength()[0] / (80 * lengthOfPixel) - 1) < 1e-12);
+    }
+
+    void keepsItsLengthInAViewWithoutHeight()
+    {
+        View view;
+        view.renderer->SetViewport(0, 0, 1, 0);
+        view.camera()->UseHorizontalViewAngleOn();
+        view.camera()->ParallelProjectionOn();
+        vtkNew<FixedPixelSizeAxesActor> actor;
+        actor->SetTotalLength(1, 2, 3);
+        actor->Rescale(view.renderer);
+        QCOMPARE(view.renderer->GetSize()[0], windowWidth);
+        QCOMPARE(view.renderer->GetSize()[1], 0);
+        QCOMPARE(actor->GetTotalLength()[0], 1.0);
     }
 
     void keepsItsLengthWhenThereIsNoneToFind_data()
@@ -197,6 +290,23 @@ private Q_SLOTS:
         actor->SetUserMatrix(placement);
         // The cones are 0.4 times as wide as the tips are long, and those take 0.2 of the axis.
         const double expected[6] = {100 - 0.08, 101, -2, 0.16, -0.32, 4};
+        const double* const bounds = actor->GetBounds();
+        for (int i = 0; i < 6; ++i) {
+            QVERIFY2(std::abs(bounds[i] - expected[i]) < 1e-12, qPrintable(QString::number(bounds[i])));
+        }
+    }
+
+    /// Sheared along x by y and z, so that the corners between all axes stand out: along x, where the sum of all three
+    /// coordinates counts, the lowest and the highest place are one corner each.
+    void tellsTheBoxAroundSlantedAxes()
+    {
+        vtkNew<FixedPixelSizeAxesActor> actor;
+        actor->SetTotalLength(1, 2, 4);
+        vtkNew<vtkMatrix4x4> placement;
+        placement->SetElement(0, 1, 1);
+        placement->SetElement(0, 2, 1);
+        actor->SetUserMatrix(placement);
+        const double expected[6] = {-0.08 - 0.16 - 0.32, 1 + 2 + 4, -0.16, 2, -0.32, 4};
         const double* const bounds = actor->GetBounds();
         for (int i = 0; i < 6; ++i) {
             QVERIFY2(std::abs(bounds[i] - expected[i]) < 1e-12, qPrintable(QString::number(bounds[i])));

@@ -54,6 +54,7 @@ class tst_QJsonHelper : public QObject
 private Q_SLOTS:
     void writesEveryPropertyType();
     void readsEveryPropertyType();
+    void readsIntegersUpToTheirLimits();
     void layouts();
     void doublesComeBack_data();
     void doublesComeBack();
@@ -74,7 +75,11 @@ private Q_SLOTS:
     void deepNesting();
     void unsupportedTypesFail();
     void aRecordThatContainsItselfFails();
+    void asDeepAsIsRead();
+    void recordsThatCannotBeCreatedArePassedOver();
     void nullArgumentsFail();
+    void textsWithFarTooManyRecordsAreRefused_data();
+    void textsWithFarTooManyRecordsAreRefused();
 };
 
 void tst_QJsonHelper::writesEveryPropertyType()
@@ -120,6 +125,14 @@ void tst_QJsonHelper::readsEveryPropertyType()
     QCOMPARE(record.flags, (QList<bool>{true, false}));
     QCOMPARE(record.vector, (QVector<double>{2.5}));
     QCOMPARE(record.words, (QStringList{QStringLiteral("w")}));
+}
+
+void tst_QJsonHelper::readsIntegersUpToTheirLimits()
+{
+    PlainRecord record;
+    QVERIFY(fromJson(R"({"number":2147483647,"numbers":[-2147483648,2147483647,0]})", record));
+    QCOMPARE(record.number, 2147483647);
+    QCOMPARE(record.numbers, (QList<int>{std::numeric_limits<int>::min(), 2147483647, 0}));
 }
 
 void tst_QJsonHelper::layouts()
@@ -347,6 +360,9 @@ void tst_QJsonHelper::elementsThatAreNoRecordsArePassedOver()
     QVERIFY(record.pointer == nullptr);
     QVERIFY(fromJson(R"({"list":{"value":2}})", record));
     QCOMPARE(record.list.size(), 2);
+    record.shared.reset(new InnerRecord);
+    QVERIFY(fromJson(R"({"shared":7})", record));
+    QVERIFY(!record.shared.isNull());
 }
 
 void tst_QJsonHelper::duplicateMembers()
@@ -376,6 +392,10 @@ void tst_QJsonHelper::unsupportedTypesFail()
     QCOMPARE(toJson(record), QByteArray());
     QVERIFY(fromJson(R"({"date":"2026-01-01"})", record));
     QVERIFY(record.date.isNull());
+    SpanRecord other;
+    QCOMPARE(toJson(other), QByteArray());
+    QVERIFY(fromJson(R"({"span":{"length":2}})", other));
+    QCOMPARE(other.span.length, qint64(1));
 }
 
 void tst_QJsonHelper::aRecordThatContainsItselfFails()
@@ -384,6 +404,40 @@ void tst_QJsonHelper::aRecordThatContainsItselfFails()
     record->next = record;
     QCOMPARE(toJson(*record), QByteArray());
     record->next.reset();
+    auto tree = QSharedPointer<TreeRecord>::create();
+    tree->branches = {tree};
+    QCOMPARE(toJson(*tree), QByteArray());
+    tree->branches.clear();
+    QCOMPARE(toJson(*tree), QByteArray(R"({"branches":[]})"));
+}
+
+/// Qt's parser follows 1024 objects inside one another, so no more are written.
+void tst_QJsonHelper::asDeepAsIsRead()
+{
+    ChainRecord record;
+    ChainRecord* last = &record;
+    for (int depth = 1; depth < 1024; ++depth) {
+        last->next.reset(new ChainRecord);
+        last = last->next.data();
+    }
+    const QByteArray json = toJson(record);
+    QCOMPARE(json.count("{\"next\":"), 1024);
+    ChainRecord read;
+    QVERIFY(fromJson(json, read));
+    QCOMPARE(toJson(read), json);
+    last->next.reset(new ChainRecord);
+    QCOMPARE(toJson(record), QByteArray());
+}
+
+void tst_QJsonHelper::recordsThatCannotBeCreatedArePassedOver()
+{
+    ClosedOwner owner;
+    QVERIFY(fromJson(R"({"pointer":{"value":9}})", owner));
+    QVERIFY(owner.pointer == nullptr);
+    ClosedRecord record;
+    owner.pointer = &record;
+    QVERIFY(fromJson(R"({"pointer":{"value":9}})", owner));
+    QCOMPARE(record.value, 9);
 }
 
 void tst_QJsonHelper::nullArgumentsFail()
@@ -392,6 +446,33 @@ void tst_QJsonHelper::nullArgumentsFail()
     InnerRecord record;
     QVERIFY(!DeserializerBase::deserialize("{}", nullptr, &InnerRecord::staticMetaObject));
     QVERIFY(!DeserializerBase::deserialize("{}", &record, nullptr));
+}
+
+void tst_QJsonHelper::textsWithFarTooManyRecordsAreRefused_data()
+{
+    QTest::addColumn<QByteArray>("member");
+    QTest::addColumn<QByteArray>("element");
+    QTest::addColumn<int>("size");
+    QTest::addColumn<bool>("isRead");
+    // 130002 records of 600 bytes are 7 times this size and 64 MB.
+    constexpr int size = (130002 * 600 - 64 * 1024 * 1024) / 7;
+    QTest::newRow("in proportion") << QByteArray("list") << QByteArray("{}") << size << true;
+    QTest::newRow("one byte less") << QByteArray("list") << QByteArray("{}") << size - 1 << false;
+    QTest::newRow("no records") << QByteArray("list") << QByteArray("[]") << size - 1 << true;
+    QTest::newRow("a list that is not read") << QByteArray("other") << QByteArray("{}") << size - 1 << true;
+    QTest::newRow("the name of an object") << QByteArray("objectName") << QByteArray("{}") << size - 1 << true;
+}
+
+void tst_QJsonHelper::textsWithFarTooManyRecordsAreRefused()
+{
+    QFETCH(QByteArray, member);
+    QFETCH(QByteArray, element);
+    QFETCH(int, size);
+    QFETCH(bool, isRead);
+    const QByteArray json = "{\"" + member + "\":[" + (element + ',').repeated(130001) + element + "]}";
+    OuterRecord record;
+    QCOMPARE(fromJson(json.leftJustified(size), record), isRead);
+    QCOMPARE(record.list.size(), isRead && member + element == "list{}" ? 130002 : 0);
 }
 
 QTEST_GUILESS_MAIN(tst_QJsonHelper)

@@ -9,6 +9,8 @@
 #include <openssl/evp.h>
 #include <openssl/hmac.h>
 
+#include <sys/stat.h>
+
 using ConfigOption::TextCipher;
 
 namespace {
@@ -46,16 +48,20 @@ private Q_SLOTS:
     void returnsEveryText_data();
     void returnsEveryText();
     void differsFromCallToCall();
+    void hasTheDocumentedForm_data();
     void hasTheDocumentedForm();
     void refusesForeignTexts_data();
     void refusesForeignTexts();
     void refusesEverySingleBitFlip();
+    void refusesEveryOtherEnding_data();
+    void refusesEveryOtherEnding();
     void refusesEveryTruncation();
     void refusesExchangedBlocks();
     void refusesAnotherKey();
     void takesTheKeyFromAFile();
     void failsWithoutTheConfiguredKeyFile_data();
     void failsWithoutTheConfiguredKeyFile();
+    void doesNotWaitForAPipe();
 };
 
 void TestTextCipher::init()
@@ -113,31 +119,48 @@ void TestTextCipher::differsFromCallToCall()
     QCOMPARE(texts.size(), 1000);
 }
 
+void TestTextCipher::hasTheDocumentedForm_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QByteArray>("plain");
+    const QString pair = QString::fromUcs4(U"\U0001F529");
+    const QString letters(20, QLatin1Char('x'));
+    QTest::newRow("letters") << QStringLiteral("ab") << QByteArray("8ab");
+    QTest::newRow("a pair at the end") << letters + pair << "8" + letters.toLatin1() + "\xf0\x9f\x94\xa9";
+    QTest::newRow("two pairs") << pair + pair << QByteArray("8\xf0\x9f\x94\xa9\xf0\x9f\x94\xa9");
+    QTest::newRow("a half") << QString(QChar(0xd801)) + QLatin1Char('z') << QByteArray("W\x01\xd8z\0", 5);
+    QTest::newRow("a half at the end") << QString(QChar(0x4e2d)) + QChar(0xdbff) << QByteArray("W\x2d\x4e\xff\xdb");
+    QTest::newRow("byte-order mark") << QString(QChar(0xfeff)) << QByteArray("W\xff\xfe");
+}
+
 // Written from the description of the format, with OpenSSL's one-call functions: the other side of the interface.
 void TestTextCipher::hasTheDocumentedForm()
 {
+    QFETCH(QString, text);
+    QFETCH(QByteArray, plain);
     qputenv(keyVariable, "a secret of ours");
-    const QByteArray sealed = QByteArray::fromBase64(encrypt(QStringLiteral("ab")).mid(mark.size()).toLatin1());
-    QCOMPARE(sealed.size(), 16 + 16 + 32);
+    const QByteArray sealed = QByteArray::fromBase64(encrypt(text).mid(mark.size()).toLatin1());
+    const int cipherSize = (plain.size() / 16 + 1) * 16;
+    QCOMPARE(sealed.size(), 16 + cipherSize + 32);
     unsigned char keys[64];
     QVERIFY(PKCS5_PBKDF2_HMAC("a secret of ours", 16, reinterpret_cast<const unsigned char*>("DataManager text cipher"),
                               23, 100000, EVP_sha256(), 64, keys) == 1);
-    const QByteArray message = "DMTC1:" + sealed.left(32);
+    const QByteArray message = "DMTC1:" + sealed.left(16 + cipherSize);
     unsigned char tag[32];
     unsigned int size = 0;
     HMAC(EVP_sha256(), keys + 32, 32, reinterpret_cast<const unsigned char*>(message.constData()),
          size_t(message.size()), tag, &size);
-    QCOMPARE(sealed.mid(32), QByteArray(reinterpret_cast<char*>(tag), 32));
+    QCOMPARE(sealed.mid(16 + cipherSize), QByteArray(reinterpret_cast<char*>(tag), 32));
     EVP_CIPHER_CTX* const context = EVP_CIPHER_CTX_new();
-    unsigned char plain[32];
+    unsigned char opened[64];
     int length = 0;
     int last = 0;
     const auto* const bytes = reinterpret_cast<const unsigned char*>(sealed.constData());
     QVERIFY(EVP_DecryptInit_ex(context, EVP_aes_256_cbc(), nullptr, keys, bytes) == 1);
-    QVERIFY(EVP_DecryptUpdate(context, plain, &length, bytes + 16, 16) == 1);
-    QVERIFY(EVP_DecryptFinal_ex(context, plain + length, &last) == 1);
+    QVERIFY(EVP_DecryptUpdate(context, opened, &length, bytes + 16, cipherSize) == 1);
+    QVERIFY(EVP_DecryptFinal_ex(context, opened + length, &last) == 1);
     EVP_CIPHER_CTX_free(context);
-    QCOMPARE(QByteArray(reinterpret_cast<char*>(plain), length + last), QByteArray("8ab"));
+    QCOMPARE(QByteArray(reinterpret_cast<char*>(opened), length + last), plain);
 }
 
 void TestTextCipher::refusesForeignTexts_data()
@@ -178,6 +201,34 @@ void TestTextCipher::refusesEverySingleBitFlip()
             changed[i] = QChar(changed.at(i).unicode() ^ (1 << bit));
             expectRefusal();
             QVERIFY2(decrypt(changed).isEmpty(), qPrintable(QStringLiteral("unit %1 bit %2").arg(i).arg(bit)));
+        }
+    }
+}
+
+void TestTextCipher::refusesEveryOtherEnding_data()
+{
+    QTest::addColumn<int>("length");
+    QTest::addColumn<QString>("filling");
+    QTest::newRow("one byte in the last letters") << 1 << QStringLiteral("==");
+    QTest::newRow("two bytes in the last letters") << 16 << QStringLiteral("=");
+    QTest::newRow("three bytes in the last letters") << 32 << QString();
+}
+
+/// Also one that stands for the same bytes.
+void TestTextCipher::refusesEveryOtherEnding()
+{
+    QFETCH(int, length);
+    QFETCH(QString, filling);
+    const QString cipherText = encrypt(QString(length, QLatin1Char('x')));
+    QVERIFY(cipherText.endsWith(filling) && !cipherText.endsWith(filling + QLatin1Char('=')));
+    for (int place = cipherText.size() - 4; place < cipherText.size(); ++place) {
+        for (const char letter : QByteArray("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/=-_")) {
+            QString changed = cipherText;
+            changed[place] = QLatin1Char(letter);
+            if (changed != cipherText) {
+                expectRefusal();
+                QVERIFY2(decrypt(changed).isEmpty(), qPrintable(changed.right(4)));
+            }
         }
     }
 }
@@ -272,6 +323,16 @@ void TestTextCipher::failsWithoutTheConfiguredKeyFile()
     QVERIFY(encrypt(sample).isEmpty());
     expectRefusal();
     QVERIFY(decrypt(withBuiltIn).isEmpty());
+}
+
+void TestTextCipher::doesNotWaitForAPipe()
+{
+    const QTemporaryDir directory;
+    const QByteArray pipe = QFile::encodeName(directory.filePath(QStringLiteral("key")));
+    QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
+    qputenv(keyFileVariable, pipe);
+    QTest::ignoreMessage(QtDebugMsg, "Encrypt text fail!");
+    QVERIFY(encrypt(sample).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestTextCipher)

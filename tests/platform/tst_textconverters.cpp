@@ -146,6 +146,9 @@ private Q_SLOTS:
                                     << QStringLiteral("1:a%003Bb:c%0025d,e");
         QTest::newRow("line ends and NUL")
             << TextPairs{{1, QStringLiteral("\r\n") + QChar(0)}} << QStringLiteral("1:%000D%000A%0000");
+        QTest::newRow("halves around a pair")
+            << TextPairs{{1, QString(QChar(0xd800)) + QChar(0xdbff) + QChar(0xdc00) + QChar(0xdfff)}}
+            << QStringLiteral("1:%D800") + QChar(0xdbff) + QChar(0xdc00) + QStringLiteral("%DFFF");
         QTest::newRow("half surrogate") << TextPairs{{1, QString(QChar(0xd83e))}} << QStringLiteral("1:%D83E");
         QTest::newRow("whole surrogate pair") << TextPairs{{1, QString::fromUcs4(U"\U0001F9ED")}}
                                               << QStringLiteral("1:") + QString::fromUcs4(U"\U0001F9ED");
@@ -205,6 +208,36 @@ private Q_SLOTS:
         }
     }
 
+    void escapesWhatIsFragile_data()
+    {
+        QTest::addColumn<int>("unit");
+        QTest::addColumn<bool>("isEscaped");
+        // The ends of the ranges of controls, surrogates that stand alone, and what is no character.
+        for (const int unit :
+             {0x00, 0x1f, 0x7f, 0x80, 0x9f, 0xd800, 0xdbff, 0xdc00, 0xdfff, 0xfdd0, 0xfdef, 0xfeff, 0xfffe, 0xffff}) {
+            QTest::addRow("%04X", unit) << unit << true;
+        }
+        for (const int unit : {0x20, 0x7e, 0xa0, 0xd7ff, 0xe000, 0xfdcf, 0xfdf0, 0xfefe, 0xff00, 0xfffd}) {
+            QTest::addRow("%04X", unit) << unit << false;
+        }
+    }
+    void escapesWhatIsFragile()
+    {
+        QFETCH(int, unit);
+        QFETCH(bool, isEscaped);
+        const QString raw(QChar(static_cast<ushort>(unit)));
+        const QString expected = isEscaped ? QString::asprintf("%%%04X", unit) : raw;
+        const TextPairs pairs{{1, raw}, {2, QStringLiteral("ab") + raw + QStringLiteral("cd")}};
+        QCOMPARE(GlobalHelper::convertIntQStringQListToQString(pairs),
+                 QStringLiteral("1:") + expected + QStringLiteral(";2:ab") + expected + QStringLiteral("cd"));
+    }
+
+    void readsDigitsOfBothCases()
+    {
+        const TextPairs read = GlobalHelper::convertStringToIntQStringQList(QStringLiteral("1:%00aF%00Fa%0909"));
+        QCOMPARE(read, (TextPairs{{1, QString(QChar(0xaf)) + QChar(0xfa) + QChar(0x909)}}));
+    }
+
     void keepsStepsInsideTextPairs()
     {
         TextPairs list;
@@ -231,7 +264,7 @@ private Q_SLOTS:
     void refusesMalformedDoubles_data()
     {
         addTexts({"a", ",", "1,", ",1", "1,,2", "1;2", " 1", "1 ", "+1", "0x10", "1e400", "-1e400", "inf", "nan",
-                  "NaN:", "NaN:3ff0000000000000", "1.2.3", "1,2,x"});
+                  "NaN:", "NaN:3ff0000000000000", "Nan:7ff8000000000001", "1.2.3", "1,2,x"});
     }
     void refusesMalformedDoubles()
     {
@@ -241,7 +274,8 @@ private Q_SLOTS:
 
     void refusesMalformedTextPairs_data()
     {
-        addTexts({"text", ":text", "a:text", "1:%", "1:%12", "1:%00G0", "1:a;b", "1:a;", "1:a;2:%-001"});
+        addTexts({"text", ":text", "a:text", "1:%", "1:%12", "1:%00G0", "1:a;b", "1:a;", "1:a;2:%-001", "1:%003",
+                  "1:%0/00", "1:%0:00", "1:%0@00", "1:%0`00", "1:%0g00", "1:%0~00", "1:%0X00"});
     }
     void refusesMalformedTextPairs()
     {

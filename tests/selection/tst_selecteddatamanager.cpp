@@ -5,6 +5,7 @@
 
 #include <QMetaMethod>
 
+#include <climits>
 #include <type_traits>
 
 namespace {
@@ -47,6 +48,9 @@ private Q_SLOTS:
     void adds() { runStoreCase(); }
     void removes_data();
     void removes() { runStoreCase(); }
+    void changesManyAtOnce();
+    void looksInVainAmongFew();
+    void holdsAMillion();
     void removesByFirstIdentifier_data();
     void removesByFirstIdentifier() { runStoreCase(); }
     void deletesSilently_data();
@@ -193,6 +197,68 @@ void tst_SelectedDataManager::removes_data()
                   "updateViewObjectState 2 (9,0) 0", "refreshActionOnSelectDataChanged"},
                  "2:3,0 2:4,0 2:6,0 7:5,0")
         << QStringLiteral("2:3,0 2:4,0 2:6,0 7:5,0");
+    // Zero is an identifier like any other.
+    QTest::newRow("a long list with zeros")
+        << Script(holding({{2, {0, 5}}, {2, {1, 0}}, {2, {2, 0}}, {2, {4, 7}}, {2, {4, 0}}, {2, {3, 6}}, {2, {0, 6}}}))
+        << Script(removing(model2, Pairs{{-1, 0}, {4, 0}, {0, 6}} + run(50, 8, 0)))
+        << lines({"setViewObjectListState 2 [(-1,0) (4,0) (0,6)] 0", "updateGeomrtryActorTransparency 4",
+                  "updateViewObjectState 2 (-1,0) 0", "updateViewObjectState 2 (4,0) 0",
+                  "updateViewObjectState 2 (0,6) 0", "refreshActionOnSelectDataChanged"},
+                 "2:0,5 2:2,0 2:4,7 2:3,6")
+        << QStringLiteral("2:0,5 2:2,0 2:4,7 2:3,6");
+    // The memory of the list still holds what was its last pair.
+    for (const int count : {1, 9}) {
+        Pairs shortened = run(50, count, 0) + Pairs{{1, 0}};
+        shortened.removeLast();
+        QTest::addRow("a shortened list of %d", count)
+            << three << Script(removing(model2, shortened))
+            << lines({"refreshActionOnSelectDataChanged"}, "2:1,0 7:1,0 2:3,4") << QStringLiteral("2:1,0 7:1,0 2:3,4");
+    }
+}
+
+void tst_SelectedDataManager::changesManyAtOnce()
+{
+    const OwnStore store;
+    store->addSelectedTargetList(model2, run(0, 1000, 3) + run(0, 1000, 3));
+    QCOMPARE(store->getSelectedDataBySelectedModel(model2), run(0, 1000, 3));
+    store->removeSelectedTargetList(model2, run(600, 1000, 3));
+    QCOMPARE(store->getSelectedDataBySelectedModel(model2), run(0, 600, 3));
+    QList<int> ids;
+    for (int id = 0; id < 500; ++id) {
+        ids.append(id);
+    }
+    store->removeSelectedTargets(model2, ids);
+    QCOMPARE(store->getSelectedDataBySelectedModel(model2), run(500, 100, 3));
+}
+
+/// Wherever the items fall in a table that has no more room: the search for one that is not there must end.
+void tst_SelectedDataManager::looksInVainAmongFew()
+{
+    const OwnStore store;
+    for (int round = 0; round < 1000; ++round) {
+        const Pairs held = run(8 * round, 8, 0);
+        store->addSelectedTargetList(model2, held);
+        store->removeSelectedTargetList(model2, run(10000 + 9 * round, 9, 0));
+        QCOMPARE(store->getSelectedDataBySelectedModel(model2), held);
+        store->clearAllSelectedTarget();
+    }
+}
+
+void tst_SelectedDataManager::holdsAMillion()
+{
+    constexpr int million = 1000000;
+    const OwnStore store;
+    for (int i = 0; i < million; ++i) {
+        store->addSelectedTargetList(model2, {{4, 7}});
+    }
+    const Pairs one = run(4, 1, 7);
+    QCOMPARE(store->getSelectedDataBySelectedModel(model2), one);
+    store->addSelectedTargetList(model2, run(100, million, 3));
+    QCOMPARE(store->getSelectedDataBySelectedModel(model2), one + run(100, million, 3));
+    store->removeSelectedTargetList(model2, run(100 + million, million, 3));
+    QCOMPARE(store->getSelectedDataBySelectedModel(model2), one + run(100, million, 3));
+    store->removeSelectedTargetList(model2, run(100, million, 3));
+    QCOMPARE(store->getSelectedDataBySelectedModel(model2), one);
 }
 
 void tst_SelectedDataManager::removesByFirstIdentifier_data()
@@ -240,6 +306,10 @@ void tst_SelectedDataManager::removesByFirstIdentifier_data()
         << lines({"setViewObjectListState 2 [(10,3) (9,3) (8,3) (7,3) (6,3) (5,3) (4,3) (3,3) (2,3) (-1,3)] 0"},
                  "7:0,3 2:20,4")
         << QStringLiteral("7:0,3 2:20,4");
+    QTest::newRow("many identifiers with the largest")
+        << Script(holding({{2, {-1, 3}}, {2, {INT_MAX, 3}}}))
+        << Script(removing(model2, {INT_MAX, 50, 51, 52, 53, 54, 55, 56, 57}))
+        << lines({"setViewObjectListState 2 [(2147483647,3)] 0"}, "2:-1,3") << QStringLiteral("2:-1,3");
 }
 
 void tst_SelectedDataManager::deletesSilently_data()

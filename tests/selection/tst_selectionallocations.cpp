@@ -20,6 +20,9 @@ private Q_SLOTS:
     void shortListsAllocateNothing();
     void shortRemovalsAllocateNothing_data();
     void shortRemovalsAllocateNothing();
+    void firstRemovalAllocatesNothing_data();
+    void firstRemovalAllocatesNothing();
+    void allocatesNothingWhereverThePoolEnds();
 };
 
 namespace {
@@ -169,6 +172,52 @@ void tst_SelectionAllocations::shortRemovalsAllocateNothing()
                            }),
              0L);
     QCOMPARE(store->getDataCount(), heldCount);
+}
+
+void tst_SelectionAllocations::firstRemovalAllocatesNothing_data()
+{
+    QTest::addColumn<int>("heldCount");
+    for (int held = 56; held <= 66; ++held) {
+        QTest::addRow("beside %d items", held) << held;
+    }
+}
+
+/// Wherever in its block the pool's first record stands: of those that come back, some, all or none were taken from it.
+void tst_SelectionAllocations::firstRemovalAllocatesNothing()
+{
+    QFETCH(int, heldCount);
+    const OwnStore store;
+    for (int i = 1; i < 6; ++i) {
+        store->init();
+    }
+    QCOMPARE(int(store->m_dataPool.size()), 120);
+    for (int i = 0; i < heldCount; ++i) {
+        store->addSelectData(SelectModel(7), i, 0);
+    }
+    for (int i = 0; i < 3; ++i) {
+        store->addSelectData(SelectModel(2), i, 0);
+    }
+    const long before = allocationCount();
+    store->deleteSelectedData(SelectModel(2));
+    QCOMPARE(allocationCount() - before, 0L);
+    QCOMPARE(int(store->m_dataPool.size()), 120 - heldCount);
+}
+
+/// One of these pools fills its last block.
+void tst_SelectionAllocations::allocatesNothingWhereverThePoolEnds()
+{
+    for (int count = 100; count < 164; ++count) {
+        const OwnStore store;
+        while (int(store->m_dataPool.size()) < count) {
+            store->m_dataPool.push_back(new DataModel::SelectedDataBase);
+        }
+        for (int i = 0; i < 3; ++i) {
+            store->addSelectData(SelectModel(2), i, 0);
+        }
+        const long before = allocationCount();
+        store->deleteSelectedData(SelectModel(2));
+        QVERIFY2(allocationCount() == before, qPrintable(QString::number(count)));
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_SelectionAllocations)

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void clearingFromEachSignalStaysShallow_data();
     void clearingFromEachSignalStaysShallow();
     void aCheckMaySwitchTheModel();
+    void clearsAnotherStoreMeanwhile();
 };
 
 namespace {
@@ -322,6 +323,30 @@ void tst_SelectionReentrancy::aCheckMaySwitchTheModel()
                              lines({"setViewObjectListState 7 [(1,0)] 1", "updateViewObjectState 7 (1,0) 1",
                                     "refreshActionOnSelectDataChanged", "updateGeomrtryActorTransparency 2"},
                                    "7:3,0 7:1,0"));
+}
+
+/// The list of the outer clearing is changed in the midst of the inner one.
+void tst_SelectionReentrancy::clearsAnotherStoreMeanwhile()
+{
+    const OwnStore outer;
+    const OwnStore inner;
+    holding({{2, {1, 0}}, {2, {2, 0}}})(*outer);
+    holding({{2, {5, 0}}})(*inner);
+    QStringList states;
+    QObject receiver;
+    connect(IBaseSignal::getInstance(), &IBaseSignal::signal_updateViewObjectState, &receiver, [&] {
+        states.append(itemsOf(*outer));
+        if (states.size() == 1) {
+            inner->clearAllSelectedTarget();
+        } else if (states.size() == 2) {
+            outer->addSelectData(SelectModel(2), 9, 9);
+        }
+    });
+    outer->clearAllSelectedTarget();
+    QCOMPARE(states, (QStringList{QStringLiteral("2:-1,-1 2:2,0"), QStringLiteral("2:-1,-1 2:2,0"),
+                                  QStringLiteral("2:-1,-1 2:9,9")}));
+    QCOMPARE(itemsOf(*outer), QStringLiteral("2:9,9"));
+    QCOMPARE(inner->getDataCount(), 0);
 }
 
 QTEST_GUILESS_MAIN(tst_SelectionReentrancy)

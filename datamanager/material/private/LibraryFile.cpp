@@ -70,8 +70,8 @@ bool isLibrary(const LibraryFile& file, const QByteArray& bytes)
 /// which reads as a library may go although memory does not hold it.
 bool isDispensable(const LibraryFile& file, bool isTrusted)
 {
-    QByteArray bytes;
     try {
+        QByteArray bytes;
         return GlobalHelper::readFile(file.path, bytes) &&
                (bytes.isEmpty() || (isTrusted && isLibrary(file, bytes)) || KeptCopy::keep(file.path, bytes));
     } catch (const std::bad_alloc&) {

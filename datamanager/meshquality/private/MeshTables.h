@@ -41,8 +41,8 @@ public:
         return isNode(corners[0]) && isNode(corners[1]) && isNode(corners[2]) && isNode(corners[3]);
     }
 
-    /// To be called after the scan. Removes the tetrahedra that name missing nodes, and returns their places among all
-    /// those scanned, in order.
+    /// To be called once, after the scan. Removes the tetrahedra that name missing nodes, and returns their places
+    /// among all those scanned, in order.
     std::vector<std::size_t> removeUnconnected();
 
     Tetrahedron::Corners corners(std::size_t element) const

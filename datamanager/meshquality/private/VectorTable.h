@@ -16,7 +16,7 @@ constexpr double missing = std::numeric_limits<double>::quiet_NaN();
 
 inline double component(const QVector<double>& v, int index)
 {
-    return index < v.size() ? v.at(index) : 0.0;
+    return v.value(index);
 }
 
 inline Tetrahedron::Vector plain(const QVector<double>& v)
@@ -31,7 +31,7 @@ inline QVector<double> table(const Tetrahedron::Vector& v)
 
 inline double valueAt(const QVector<double>& values, int index)
 {
-    return index < values.size() ? values.at(index) : missing;
+    return values.value(index, missing);
 }
 
 /// The six edge vectors of an element that has exactly six.

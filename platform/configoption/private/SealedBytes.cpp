@@ -53,8 +53,8 @@ int transform(const unsigned char* input, int size, const unsigned char* vector,
     int written = 0;
     int lastWritten = 0;
     if (context == nullptr ||
-        EVP_CipherInit_ex(context.get(), EVP_aes_256_cbc(), nullptr, keys.encryption.data(), vector,
-                          isEncrypting ? 1 : 0) != 1 ||
+        EVP_CipherInit_ex(context.get(), EVP_aes_256_cbc(), nullptr, keys.encryption.data(), vector, isEncrypting) !=
+            1 ||
         EVP_CipherUpdate(context.get(), output, &written, input, size) != 1 ||
         EVP_CipherFinal_ex(context.get(), output + written, &lastWritten) != 1) {
         return -1;
@@ -113,7 +113,7 @@ bool SealedBytes::open(const QByteArray& sealed, const QByteArray& version, cons
     }
     QByteArray opened(cipherSize + blockSize, Qt::Uninitialized);
     const int size = transform(bytes + vectorSize, cipherSize, bytes, keys, false, bytesOf(opened));
-    if (size < 0) {
+    if (size <= 0) {
         return false;
     }
     opened.resize(size);

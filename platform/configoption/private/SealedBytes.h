@@ -15,7 +15,7 @@ namespace SealedBytes {
 /// Empty on failure; otherwise never empty. `version` is authenticated but not part of the result.
 QByteArray seal(const QByteArray& plain, const QByteArray& version, const CipherKeys& keys);
 
-/// False, with `plain` unchanged, when `sealed` was not made with this version and these keys.
+/// False, with `plain` unchanged, when `sealed` was not made with this version and these keys, or from no bytes.
 bool open(const QByteArray& sealed, const QByteArray& version, const CipherKeys& keys, QByteArray& plain);
 
 } // namespace SealedBytes

@@ -79,3 +79,25 @@ several("empty-when-run", [helper.make_node("Constant", [], ["limit"], value_flo
         [(INPUT, (1, 11))], [(OUTPUT, ("size",))])
 several("other-outputs", [helper.make_node("Sigmoid", [INPUT], ["a"]), helper.make_node("Tanh", [INPUT], ["b"])],
         [(INPUT, (1, 11))], [("a", (1, 11)), ("b", (1, 11))])
+
+
+def fails_when_run():
+    """By the volume: 0.5 up to 1000, then not a number, above 2000 more than one, and above 3000 an element that the
+    table does not have, which the runtime finds only when the model is run."""
+    table = numpy.array([[0.5], [numpy.nan], [1.7]], dtype=numpy.float32)
+    nodes = [helper.make_node("Constant", [], ["flat"], value_ints=[-1]),
+             helper.make_node("Constant", [], ["first"], value_ints=[0]),
+             helper.make_node("Constant", [], ["table"], value=numpy_helper.from_array(table)),
+             helper.make_node("Reshape", [INPUT, "flat"], ["features"]),
+             helper.make_node("Gather", ["features", "first"], ["volume"])]
+    for limit in (1000, 2000, 3000):
+        nodes += [helper.make_node("Constant", [], [f"limit{limit}"], value_floats=[float(limit)]),
+                  helper.make_node("Greater", ["volume", f"limit{limit}"], [f"is{limit}"]),
+                  helper.make_node("Cast", [f"is{limit}"], [f"step{limit}"], to=TensorProto.INT64)]
+    nodes += [helper.make_node("Add", ["step1000", "step2000"], ["steps"]),
+              helper.make_node("Add", ["steps", "step3000"], ["place"]),
+              helper.make_node("Gather", ["table", "place"], [OUTPUT])]
+    several("fails-when-run", nodes, [(INPUT, (1, 11))], [(OUTPUT, (1, 1))])
+
+
+fails_when_run()
