@@ -3,6 +3,8 @@
 
 #include "Deed.h"
 
+#include "Counters.h"
+
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
 #include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
 #include <datamanager/frame/CaseData.h>
@@ -17,7 +19,9 @@
 #include <datamodel/ExampleLibData.h>
 #include <datamodel/MaterialData.h>
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QKeyEvent>
 
 #include <memory>
@@ -168,6 +172,41 @@ void askSystems(Dice& dice)
     systems.setCurrentCoordinateSystemID(system.getID());
 }
 
+void count(Dice& dice)
+{
+    static GeometryCounters geometry;
+    static MeshCounters mesh;
+    geometry.addComponent({}, {});
+    mesh.addKernel({}, {});
+    if (dice.roll(0, 9) == 0) {
+        geometry.resetSetMaxID(dice.roll(0, 9));
+        geometry.resetComponentMaxID();
+        mesh.setKernelMaxID(dice.roll(0, 9));
+        mesh.resetSetMaxID();
+    }
+    geometry.addSet({}, {});
+    mesh.addSet({}, {});
+}
+
+/// Scores made-up features; now and then the model is loaded anew.
+void score(Dice& dice)
+{
+    MeshQualityPredict& predict = *MeshQualityPredict::getinstance();
+    static bool isLoaded = false;
+    if (!isLoaded || dice.roll(0, 40) == 0) {
+        const QString path = QCoreApplication::applicationDirPath() + QStringLiteral("/../mesher/mesh.onnx");
+        predict.loadModel(QFile::encodeName(path).constData(), "onnx::Gemm_0", "19");
+        predict.setFigureParameter(11);
+        isLoaded = true;
+    }
+    float features[11] = {};
+    for (float& feature : features) {
+        feature = static_cast<float>(dice.roll(0, 1000)) / 500.0F;
+    }
+    predict.inferFigure(features);
+    predict.getOutput();
+}
+
 } // namespace
 
 void setProjectsDirectory(const QString& directory)
@@ -204,6 +243,10 @@ void doDeed(Dice& dice)
     } else if (choice < 7510) {
         CaseData::getinstance();
         GeometryData::getinstance();
+    } else if (choice < 7600) {
+        count(dice);
+    } else if (choice < 7640) {
+        score(dice);
     } else if (choice < 8500) {
         convert(dice);
     } else if (choice < 9700) {
