@@ -4,9 +4,9 @@
 #include <meshquality/CheckCommand.h>
 
 #include <console/Console.h>
+#include <meshquality/Check.h>
 #include <meshquality/MeshInput.h>
 #include <meshquality/NumberText.h>
-#include <meshquality/Profile.h>
 #include <meshquality/ScoredMesh.h>
 
 #include <QCommandLineParser>
@@ -21,41 +21,12 @@ namespace {
 const QString profileFile = QStringLiteral("profile");
 const QString printProfile = QStringLiteral("print-profile");
 
-enum class Verdict : int
+QString remark(const Threshold& threshold, const Finding& finding)
 {
-    Pass,
-    Warn,
-    Fail
-};
-
-/// What a threshold finds in a mesh.
-struct Finding
-{
-    Verdict verdict;
-    QString text;
-};
-
-Finding check(const MeshQualityReport& report, const Threshold& threshold)
-{
-    int failing = 0;
-    for (const double value : report.values(threshold.metric)) {
-        // No number is neither.
-        failing += value >= threshold.minimum && value <= threshold.maximum ? 0 : 1;
-    }
-    const double percent = 100.0 * failing / report.elementCount();
-    const Verdict verdict = failing == 0                          ? Verdict::Pass
-                            : percent <= threshold.allowedPercent ? Verdict::Warn
-                                                                  : Verdict::Fail;
-    return {verdict, QCoreApplication::translate("meshquality", "%1 %2 elements (%3 %)")
-                         .arg(MeshQualityReport::metricName(threshold.metric), QString::number(failing),
-                              QString::fromLatin1(sixDigits(percent)))};
-}
-
-QString word(Verdict verdict)
-{
-    return verdict == Verdict::Fail   ? QCoreApplication::translate("meshquality", "fail")
-           : verdict == Verdict::Warn ? QCoreApplication::translate("meshquality", "warn")
-                                      : QCoreApplication::translate("meshquality", "pass");
+    return verdictText(finding.verdict) + QLatin1Char(' ') +
+           QCoreApplication::translate("meshquality", "%1 %2 elements (%3 %)")
+               .arg(MeshQualityReport::metricName(threshold.metric), QString::number(finding.failing),
+                    QString::fromLatin1(sixDigits(finding.percent)));
 }
 
 ExitCode checkMesh(const QString& file, const Profile& profile)
@@ -72,11 +43,11 @@ ExitCode checkMesh(const QString& file, const Profile& profile)
         const Finding finding = check(mesh.report, threshold);
         worst = qMax(worst, finding.verdict);
         if (finding.verdict != Verdict::Pass) {
-            remarks.append(word(finding.verdict) + QLatin1Char(' ') + finding.text);
+            remarks.append(remark(threshold, finding));
         }
     }
     const QString reasons = remarks.isEmpty() ? QString() : QStringLiteral(": ") + remarks.join(QStringLiteral(", "));
-    Console::print(word(worst) + QLatin1Char(' ') + file + reasons + QLatin1Char('\n'));
+    Console::print(verdictText(worst) + QLatin1Char(' ') + file + reasons + QLatin1Char('\n'));
     return worst == Verdict::Fail ? CheckFailed : Success;
 }
 

@@ -13,6 +13,12 @@
 
 #include <limits>
 
+// A static library's resources are dropped unless something names them; the macro works in no namespace.
+static void keepResources()
+{
+    Q_INIT_RESOURCE(profiles);
+}
+
 namespace MeshQuality {
 
 namespace {
@@ -50,6 +56,7 @@ QString readThreshold(const QJsonObject& object, Threshold& threshold)
 
 QByteArray Profile::defaultText()
 {
+    keepResources();
     QFile file(QStringLiteral(":/meshquality/profiles/default.json"));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
@@ -75,6 +82,7 @@ bool Profile::parse(const QByteArray& text, Profile& profile, QString& problem)
     } else if (thresholds.isEmpty()) {
         problem = QCoreApplication::translate("meshquality", "has no list of thresholds");
     }
+    profile.name = document.object().value(QLatin1String("name")).toString();
     for (const QJsonValue& value : thresholds) {
         Threshold threshold{};
         problem = problem.isEmpty() ? readThreshold(value.toObject(), threshold) : problem;

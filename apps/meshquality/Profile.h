@@ -27,12 +27,14 @@ struct Threshold
 
 /// Thresholds that a mesh is checked against. As JSON:
 /// {"thresholds": [{"metric": "Shape", "minimum": 0.2, "allowedPercent": 5, "source": "where it comes from"}]}
-/// with a minimum, a maximum, or both; without allowedPercent no element may fail.
+/// with a minimum, a maximum, or both; without allowedPercent no element may fail. A "name" beside the list is
+/// optional.
 struct Profile
 {
+    QString name;
     std::vector<Threshold> thresholds;
 
-    /// The profile that is built into the program, apps/meshquality/profiles/default.json.
+    /// The profile that is built into the programs, apps/meshquality/profiles/default.json.
     static QByteArray defaultText();
     /// Reads a JSON profile from a file, or from its text; false, with what is wrong in `problem`, when it is none.
     static bool read(const QString& path, Profile& profile, QString& problem);
