@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Yes</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::AngleFields</name>
     <message>
         <source>degrees</source>
@@ -12,12 +47,155 @@
         <translation>radians</translation>
     </message>
     <message>
-        <source>Rotation about x, y, z, in</source>
-        <translation>Rotation about x, y, z, in</translation>
-    </message>
-    <message>
         <source>Right-handed, about the fixed axes of the basic system (extrinsic): first about x, then about y, then about z.</source>
         <translation>Right-handed, about the fixed axes of the basic system (extrinsic): first about x, then about y, then about z.</translation>
+    </message>
+    <message>
+        <source>Rotation about x, y, z, &amp;in</source>
+        <translation>Rotation about x, y, z, &amp;in</translation>
+    </message>
+    <message>
+        <source>Rotation about x</source>
+        <translation>Rotation about x</translation>
+    </message>
+    <message>
+        <source>Rotation about y</source>
+        <translation>Rotation about y</translation>
+    </message>
+    <message>
+        <source>Rotation about z</source>
+        <translation>Rotation about z</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CheckProfile</name>
+    <message>
+        <source>%1 (built in)</source>
+        <translation>%1 (built in)</translation>
+    </message>
+    <message>
+        <source>The profile %1 cannot be used: %2</source>
+        <translation>The profile %1 cannot be used: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CheckTable</name>
+    <message>
+        <source>at least %1</source>
+        <translation>at least %1</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>at most %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 to %2</translation>
+    </message>
+    <message>
+        <source>Profile...</source>
+        <translation>Profile...</translation>
+    </message>
+    <message>
+        <source>Checks against the thresholds of a file, as &apos;meshquality check --profile&apos; does</source>
+        <translation>Checks against the thresholds of a file, as &apos;meshquality check --profile&apos; does</translation>
+    </message>
+    <message>
+        <source>Built in</source>
+        <translation>Built in</translation>
+    </message>
+    <message>
+        <source>Checks against the thresholds that are built into the programs</source>
+        <translation>Checks against the thresholds that are built into the programs</translation>
+    </message>
+    <message>
+        <source>Select outside</source>
+        <translation>Select outside</translation>
+    </message>
+    <message>
+        <source>Selects the elements outside of the marked thresholds, or of all when none is marked</source>
+        <translation>Selects the elements outside of the marked thresholds, or of all when none is marked</translation>
+    </message>
+    <message>
+        <source>Metric</source>
+        <translation>Metric</translation>
+    </message>
+    <message>
+        <source>Wanted</source>
+        <translation>Wanted</translation>
+    </message>
+    <message>
+        <source>Outside</source>
+        <translation>Outside</translation>
+    </message>
+    <message>
+        <source>Allowed</source>
+        <translation>Allowed</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Verdict</translation>
+    </message>
+    <message>
+        <source>Checks</source>
+        <translation>Checks</translation>
+    </message>
+    <message>
+        <source>Profile: %1</source>
+        <translation>Profile: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CommandLine</name>
+    <message>
+        <source>Materials, coordinate systems and meshes of a simulation on the desktop.
+
+  workbench [OPTION...] [FILE]
+      Opens a project (.wbproj), a mesh (.msh, version 2 in ASCII) or a geometry (.geo, .step, .brep, .iges).
+  workbench --help
+  workbench --version
+
+  --language L  the language of the window, this time: English or Chinese
+
+Options of every Qt program, such as -platform, are taken as well. The mesher is the program gmsh, or the one
+that the environment variable WORKBENCH_GMSH names.
+
+Exit codes: 0 ok, 2 wrong call, 3 FILE cannot be read
+</source>
+        <translation>Materials, coordinate systems and meshes of a simulation on the desktop.
+
+  workbench [OPTION...] [FILE]
+      Opens a project (.wbproj), a mesh (.msh, version 2 in ASCII) or a geometry (.geo, .step, .brep, .iges).
+  workbench --help
+  workbench --version
+
+  --language L  the language of the window, this time: English or Chinese
+
+Options of every Qt program, such as -platform, are taken as well. The mesher is the program gmsh, or the one
+that the environment variable WORKBENCH_GMSH names.
+
+Exit codes: 0 ok, 2 wrong call, 3 FILE cannot be read
+</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>there is no such file</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>it is not a regular file</translation>
+    </message>
+    <message>
+        <source>you may not read it</source>
+        <translation>you may not read it</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos;</source>
+        <translation>unknown option &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>more than one file</source>
+        <translation>more than one file</translation>
     </message>
 </context>
 <context>
@@ -31,20 +209,44 @@
         <translation>Coordinate system %1</translation>
     </message>
     <message>
-        <source>Name</source>
-        <translation>Name</translation>
+        <source>%1 (itself)</source>
+        <translation>%1 (itself)</translation>
     </message>
     <message>
-        <source>Relative to</source>
-        <translation>Relative to</translation>
+        <source>%1 (missing)</source>
+        <translation>%1 (missing)</translation>
     </message>
     <message>
-        <source>Coordinates given as</source>
-        <translation>Coordinates given as</translation>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
     </message>
     <message>
-        <source>Origin x, y, z, in units of the model</source>
-        <translation>Origin x, y, z, in units of the model</translation>
+        <source>&amp;Relative to</source>
+        <translation>&amp;Relative to</translation>
+    </message>
+    <message>
+        <source>&amp;Coordinates given as</source>
+        <translation>&amp;Coordinates given as</translation>
+    </message>
+    <message>
+        <source>&amp;Origin x, y, z, in units of the model</source>
+        <translation>&amp;Origin x, y, z, in units of the model</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the place: convert the values when another system is chosen</source>
+        <translation>&amp;Keep the place: convert the values when another system is chosen</translation>
+    </message>
+    <message>
+        <source>Origin x</source>
+        <translation>Origin x</translation>
+    </message>
+    <message>
+        <source>Origin y</source>
+        <translation>Origin y</translation>
+    </message>
+    <message>
+        <source>Origin z</source>
+        <translation>Origin z</translation>
     </message>
 </context>
 <context>
@@ -120,6 +322,29 @@
         <source>Coordinate system %1 is already called &apos;%2&apos;.</source>
         <translation>Coordinate system %1 is already called &apos;%2&apos;.</translation>
     </message>
+    <message>
+        <source>Global</source>
+        <translation>Global</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CoordinateSystems</name>
+    <message>
+        <source>There is no coordinate system %1.</source>
+        <translation>There is no coordinate system %1.</translation>
+    </message>
+    <message>
+        <source>A coordinate system cannot be relative to itself.</source>
+        <translation>A coordinate system cannot be relative to itself.</translation>
+    </message>
+    <message>
+        <source>%1 is itself relative to this system, directly or through others: that would be a loop.</source>
+        <translation>%1 is itself relative to this system, directly or through others: that would be a loop.</translation>
+    </message>
+    <message>
+        <source>The library builds a system anew only where its identifier is above 0.</source>
+        <translation>The library builds a system anew only where its identifier is above 0.</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::CoordinateValues</name>
@@ -163,6 +388,14 @@
         <source>Value</source>
         <translation>Value</translation>
     </message>
+    <message>
+        <source>Values</source>
+        <translation>Values</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Properties</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::DeleteQuestion</name>
@@ -205,18 +438,26 @@
 <context>
     <name>Workbench::HistogramView</name>
     <message>
-        <source>%1 to %2: %3 elements
-A click selects them, dragging those of several bars; hold Ctrl to add.</source>
-        <translation>%1 to %2: %3 elements
-A click selects them, dragging those of several bars; hold Ctrl to add.</translation>
-    </message>
-    <message>
         <source>no finite value</source>
         <translation>no finite value</translation>
     </message>
     <message>
         <source>up to %1 elements</source>
         <translation>up to %1 elements</translation>
+    </message>
+    <message>
+        <source>%1 to %2: %3 elements</source>
+        <translation>%1 to %2: %3 elements</translation>
+    </message>
+    <message>
+        <source>A click selects them, dragging those of several bars; hold Ctrl to add.
+By keys: arrows mark a bar, with Shift several; Space or Enter selects.</source>
+        <translation>A click selects them, dragging those of several bars; hold Ctrl to add.
+By keys: arrows mark a bar, with Shift several; Space or Enter selects.</translation>
+    </message>
+    <message>
+        <source>Histogram</source>
+        <translation>Histogram</translation>
     </message>
 </context>
 <context>
@@ -265,6 +506,25 @@ A click selects them, dragging those of several bars; hold Ctrl to add.</transla
         <source>Copy</source>
         <translation>Copy</translation>
     </message>
+    <message>
+        <source>Comparison</source>
+        <translation>Comparison</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::KernelChoice</name>
+    <message>
+        <source>The mesh that is shown (%1)</source>
+        <translation>The mesh that is shown (%1)</translation>
+    </message>
+    <message>
+        <source>Mesh</source>
+        <translation>Mesh</translation>
+    </message>
+    <message>
+        <source>The mesh whose figures are shown</source>
+        <translation>The mesh whose figures are shown</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::LibraryPane</name>
@@ -295,6 +555,22 @@ A click selects them, dragging those of several bars; hold Ctrl to add.</transla
     <message>
         <source>Compares the selected materials, or all when none is selected, before it copies.</source>
         <translation>Compares the selected materials, or all when none is selected, before it copies.</translation>
+    </message>
+    <message>
+        <source>Search in: %1</source>
+        <translation>Search in: %1</translation>
+    </message>
+    <message>
+        <source>Only favourites</source>
+        <translation>Only favourites</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favourite</translation>
+    </message>
+    <message>
+        <source>Marks the selected materials with a star, or takes the stars away</source>
+        <translation>Marks the selected materials with a star, or takes the stars away</translation>
     </message>
 </context>
 <context>
@@ -509,6 +785,46 @@ Version %1</translation>
         <source>Pictures (*.png *.jpg)</source>
         <translation>Pictures (*.png *.jpg)</translation>
     </message>
+    <message>
+        <source>Coordinate axes</source>
+        <translation>Coordinate axes</translation>
+    </message>
+    <message>
+        <source>&amp;Name the selection…</source>
+        <translation>&amp;Name the selection…</translation>
+    </message>
+    <message>
+        <source>Name the selection</source>
+        <translation>Name the selection</translation>
+    </message>
+    <message>
+        <source>Name of the set or group:</source>
+        <translation>Name of the set or group:</translation>
+    </message>
+    <message>
+        <source>Opening %1</source>
+        <translation>Opening %1</translation>
+    </message>
+    <message>
+        <source>Saving “%1”</source>
+        <translation>Saving “%1”</translation>
+    </message>
+    <message>
+        <source>Meshing is under way</source>
+        <translation>Meshing is under way</translation>
+    </message>
+    <message>
+        <source>The geometry is being meshed. This stops it.</source>
+        <translation>The geometry is being meshed. This stops it.</translation>
+    </message>
+    <message>
+        <source>One file is opened at a time: of %1 only %2.</source>
+        <translation>One file is opened at a time: of %1 only %2.</translation>
+    </message>
+    <message>
+        <source>Go on?</source>
+        <translation>Go on?</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::MaterialDialog</name>
@@ -525,24 +841,24 @@ Version %1</translation>
         <translation>Property %1</translation>
     </message>
     <message>
-        <source>English name</source>
-        <translation>English name</translation>
-    </message>
-    <message>
-        <source>Chinese name</source>
-        <translation>Chinese name</translation>
-    </message>
-    <message>
         <source>Property %1, component %2: %3</source>
         <translation>Property %1, component %2: %3</translation>
+    </message>
+    <message>
+        <source>&amp;English name</source>
+        <translation>&amp;English name</translation>
+    </message>
+    <message>
+        <source>&amp;Chinese name</source>
+        <translation>&amp;Chinese name</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Properties</translation>
     </message>
 </context>
 <context>
     <name>Workbench::MaterialDock</name>
-    <message>
-        <source>free space</source>
-        <translation>free space</translation>
-    </message>
     <message>
         <source>Materials</source>
         <translation>Materials</translation>
@@ -593,6 +909,14 @@ Version %1</translation>
         <source>Software library</source>
         <translation>Software library</translation>
     </message>
+    <message>
+        <source>free space</source>
+        <translation>free space</translation>
+    </message>
+    <message>
+        <source>material %1, which is missing</source>
+        <translation>material %1, which is missing</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::MaterialTable</name>
@@ -611,6 +935,30 @@ Version %1</translation>
     <message>
         <source>Properties</source>
         <translation>Properties</translation>
+    </message>
+    <message>
+        <source>this project</source>
+        <translation>this project</translation>
+    </message>
+    <message>
+        <source>software library, %1 (%2), edited</source>
+        <translation>software library, %1 (%2), edited</translation>
+    </message>
+    <message>
+        <source>software library, %1 (%2)</source>
+        <translation>software library, %1 (%2)</translation>
+    </message>
+    <message>
+        <source>a favourite</source>
+        <translation>a favourite</translation>
+    </message>
+    <message>
+        <source>no favourite</source>
+        <translation>no favourite</translation>
+    </message>
+    <message>
+        <source>Origin</source>
+        <translation>Origin</translation>
     </message>
 </context>
 <context>
@@ -649,6 +997,10 @@ Version %1</translation>
     <message>
         <source>it gave no reason</source>
         <translation>it gave no reason</translation>
+    </message>
+    <message>
+        <source>The mesh of %1 could not be moved to %2.</source>
+        <translation>The mesh of %1 could not be moved to %2.</translation>
     </message>
 </context>
 <context>
@@ -694,6 +1046,25 @@ Version %1</translation>
     </message>
 </context>
 <context>
+    <name>Workbench::NamedSelections</name>
+    <message>
+        <source>A name must not be empty.</source>
+        <translation>A name must not be empty.</translation>
+    </message>
+    <message>
+        <source>The name “%1” is taken.</source>
+        <translation>The name “%1” is taken.</translation>
+    </message>
+    <message>
+        <source>group %1</source>
+        <translation>group %1</translation>
+    </message>
+    <message>
+        <source>set %1</source>
+        <translation>set %1</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::NumberField</name>
     <message>
         <source>A number is missing.</source>
@@ -731,10 +1102,6 @@ Version %1</translation>
         <translation>The project %1 cannot be saved: %2</translation>
     </message>
     <message>
-        <source>a mesh is being read; wait, or cancel it</source>
-        <translation>a mesh is being read; wait, or cancel it</translation>
-    </message>
-    <message>
         <source>its working files could not be written</source>
         <translation>its working files could not be written</translation>
     </message>
@@ -770,16 +1137,16 @@ Version %1</translation>
         <source>they were saved with another key, or are damaged. The file is kept in the project</source>
         <translation>they were saved with another key, or are damaged. The file is kept in the project</translation>
     </message>
+    <message>
+        <source>another one is being opened</source>
+        <translation>another one is being opened</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::ProjectArchive</name>
     <message>
         <source>the working files could not be read</source>
         <translation>the working files could not be read</translation>
-    </message>
-    <message>
-        <source>the file could not be written</source>
-        <translation>the file could not be written</translation>
     </message>
     <message>
         <source>there is no such file</source>
@@ -796,6 +1163,18 @@ Version %1</translation>
     <message>
         <source>it is damaged</source>
         <translation>it is damaged</translation>
+    </message>
+    <message>
+        <source>its content could not be written: %1</source>
+        <translation>its content could not be written: %1</translation>
+    </message>
+    <message>
+        <source>the file could not be written: %1</source>
+        <translation>the file could not be written: %1</translation>
+    </message>
+    <message>
+        <source>you may not read it</source>
+        <translation>you may not read it</translation>
     </message>
 </context>
 <context>
@@ -883,40 +1262,48 @@ Version %1</translation>
         <source>New name:</source>
         <translation>New name:</translation>
     </message>
+    <message>
+        <source>Sets</source>
+        <translation>Sets</translation>
+    </message>
+    <message>
+        <source>%1 members</source>
+        <translation>%1 members</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>not read</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Read</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Hide</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Select</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Show</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::PropertyEditor</name>
-    <message>
-        <source>The material has this property</source>
-        <translation>The material has this property</translation>
-    </message>
     <message>
         <source>other</source>
         <translation>other</translation>
     </message>
     <message>
-        <source>Quantity</source>
-        <translation>Quantity</translation>
-    </message>
-    <message>
-        <source>Kind</source>
-        <translation>Kind</translation>
-    </message>
-    <message>
-        <source>Label</source>
-        <translation>Label</translation>
-    </message>
-    <message>
-        <source>Components</source>
-        <translation>Components</translation>
-    </message>
-    <message>
         <source>Unit</source>
         <translation>Unit</translation>
-    </message>
-    <message>
-        <source>Remark</source>
-        <translation>Remark</translation>
     </message>
     <message>
         <source>unit X; source of the values; conditions</source>
@@ -927,12 +1314,40 @@ Version %1</translation>
         <translation>set; in the default library: differs between directions</translation>
     </message>
     <message>
-        <source>Flag</source>
-        <translation>Flag</translation>
-    </message>
-    <message>
         <source>not known: begin the remark with &apos;unit X&apos;</source>
         <translation>not known: begin the remark with &apos;unit X&apos;</translation>
+    </message>
+    <message>
+        <source>The material &amp;has this property</source>
+        <translation>The material &amp;has this property</translation>
+    </message>
+    <message>
+        <source>&amp;Quantity</source>
+        <translation>&amp;Quantity</translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation>&amp;Kind</translation>
+    </message>
+    <message>
+        <source>&amp;Label</source>
+        <translation>&amp;Label</translation>
+    </message>
+    <message>
+        <source>Co&amp;mponents</source>
+        <translation>Co&amp;mponents</translation>
+    </message>
+    <message>
+        <source>&amp;Remark</source>
+        <translation>&amp;Remark</translation>
+    </message>
+    <message>
+        <source>&amp;Flag</source>
+        <translation>&amp;Flag</translation>
+    </message>
+    <message>
+        <source>Component %1</source>
+        <translation>Component %1</translation>
     </message>
 </context>
 <context>
@@ -1111,6 +1526,22 @@ Version %1</translation>
         <source>Inverted / flat</source>
         <translation>Inverted / flat</translation>
     </message>
+    <message>
+        <source>Metric</source>
+        <translation>Metric</translation>
+    </message>
+    <message>
+        <source>Lists</source>
+        <translation>Lists</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Check</translation>
+    </message>
+    <message>
+        <source>Check: %1</source>
+        <translation>Check: %1</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::RegionTable</name>
@@ -1150,6 +1581,10 @@ Version %1</translation>
         <source>Flat</source>
         <translation>Flat</translation>
     </message>
+    <message>
+        <source>Regions</source>
+        <translation>Regions</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::RemovalQuestion</name>
@@ -1168,6 +1603,13 @@ Version %1</translation>
     <message>
         <source>Delete %1?</source>
         <translation>Delete %1?</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::ScoreChart</name>
+    <message>
+        <source>Last scores</source>
+        <translation>Last scores</translation>
     </message>
 </context>
 <context>
@@ -1211,6 +1653,10 @@ Version %1</translation>
         <source>Score %1 (0 worst, 1 best)</source>
         <translation>Score %1 (0 worst, 1 best)</translation>
     </message>
+    <message>
+        <source>Of the mesh that was read last, %1:</source>
+        <translation>Of the mesh that was read last, %1:</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::SelectionUndo</name>
@@ -1232,6 +1678,21 @@ Version %1</translation>
     <message>
         <source>Cancel</source>
         <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Saving %1</source>
+        <translation>Saving %1</translation>
+    </message>
+    <message>
+        <source>Opening %1</source>
+        <translation>Opening %1</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::TransferDialog</name>
+    <message>
+        <source>Please wait</source>
+        <translation>Please wait</translation>
     </message>
 </context>
 <context>
@@ -1270,6 +1731,22 @@ Version %1</translation>
     <message>
         <source>A double click or Enter looks at the element</source>
         <translation>A double click or Enter looks at the element</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>Save...</translation>
+    </message>
+    <message>
+        <source>Writes the list with all metrics as CSV, as &apos;meshquality report&apos; does</source>
+        <translation>Writes the list with all metrics as CSV, as &apos;meshquality report&apos; does</translation>
+    </message>
+    <message>
+        <source>Worst elements</source>
+        <translation>Worst elements</translation>
+    </message>
+    <message>
+        <source>The list could not be written to %1.</source>
+        <translation>The list could not be written to %1.</translation>
     </message>
 </context>
 </TS>

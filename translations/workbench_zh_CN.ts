@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>是(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>否(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::AngleFields</name>
     <message>
         <source>degrees</source>
@@ -12,12 +47,155 @@
         <translation>弧度</translation>
     </message>
     <message>
-        <source>Rotation about x, y, z, in</source>
-        <translation>绕 x、y、z 轴的旋转，单位</translation>
-    </message>
-    <message>
         <source>Right-handed, about the fixed axes of the basic system (extrinsic): first about x, then about y, then about z.</source>
         <translation>右手系，绕基准坐标系的固定轴（外旋）：先绕 x 轴，再绕 y 轴，最后绕 z 轴。</translation>
+    </message>
+    <message>
+        <source>Rotation about x, y, z, &amp;in</source>
+        <translation>绕 x、y、z 旋转，单位(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Rotation about x</source>
+        <translation>绕 x 旋转</translation>
+    </message>
+    <message>
+        <source>Rotation about y</source>
+        <translation>绕 y 旋转</translation>
+    </message>
+    <message>
+        <source>Rotation about z</source>
+        <translation>绕 z 旋转</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CheckProfile</name>
+    <message>
+        <source>%1 (built in)</source>
+        <translation>%1（内置）</translation>
+    </message>
+    <message>
+        <source>The profile %1 cannot be used: %2</source>
+        <translation>无法使用配置 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CheckTable</name>
+    <message>
+        <source>at least %1</source>
+        <translation>不小于 %1</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>不大于 %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
+    <message>
+        <source>Profile...</source>
+        <translation>配置...</translation>
+    </message>
+    <message>
+        <source>Checks against the thresholds of a file, as &apos;meshquality check --profile&apos; does</source>
+        <translation>按文件中的阈值检查，与“meshquality check --profile”相同</translation>
+    </message>
+    <message>
+        <source>Built in</source>
+        <translation>内置</translation>
+    </message>
+    <message>
+        <source>Checks against the thresholds that are built into the programs</source>
+        <translation>按程序内置的阈值检查</translation>
+    </message>
+    <message>
+        <source>Select outside</source>
+        <translation>选中超限单元</translation>
+    </message>
+    <message>
+        <source>Selects the elements outside of the marked thresholds, or of all when none is marked</source>
+        <translation>选中超出所标记阈值的单元；未标记时为超出任一阈值的单元</translation>
+    </message>
+    <message>
+        <source>Metric</source>
+        <translation>指标</translation>
+    </message>
+    <message>
+        <source>Wanted</source>
+        <translation>要求</translation>
+    </message>
+    <message>
+        <source>Outside</source>
+        <translation>超限</translation>
+    </message>
+    <message>
+        <source>Allowed</source>
+        <translation>允许</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>结论</translation>
+    </message>
+    <message>
+        <source>Checks</source>
+        <translation>检查</translation>
+    </message>
+    <message>
+        <source>Profile: %1</source>
+        <translation>配置：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CommandLine</name>
+    <message>
+        <source>Materials, coordinate systems and meshes of a simulation on the desktop.
+
+  workbench [OPTION...] [FILE]
+      Opens a project (.wbproj), a mesh (.msh, version 2 in ASCII) or a geometry (.geo, .step, .brep, .iges).
+  workbench --help
+  workbench --version
+
+  --language L  the language of the window, this time: English or Chinese
+
+Options of every Qt program, such as -platform, are taken as well. The mesher is the program gmsh, or the one
+that the environment variable WORKBENCH_GMSH names.
+
+Exit codes: 0 ok, 2 wrong call, 3 FILE cannot be read
+</source>
+        <translation>在桌面上准备仿真的材料、坐标系和网格。
+
+  workbench [OPTION...] [FILE]
+      打开工程（.wbproj）、网格（.msh，第 2 版 ASCII）或几何（.geo、.step、.brep、.iges）。
+  workbench --help
+  workbench --version
+
+  --language L  本次窗口的语言：English 或 Chinese
+
+也接受所有 Qt 程序的选项，例如 -platform。网格划分程序为 gmsh，
+或环境变量 WORKBENCH_GMSH 指定的程序。
+
+退出码：0 正常，2 调用有误，3 FILE 无法读取
+</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>没有这个文件</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>它不是普通文件</translation>
+    </message>
+    <message>
+        <source>you may not read it</source>
+        <translation>没有读取权限</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos;</source>
+        <translation>未知选项“%1”</translation>
+    </message>
+    <message>
+        <source>more than one file</source>
+        <translation>给出了多个文件</translation>
     </message>
 </context>
 <context>
@@ -31,20 +209,44 @@
         <translation>坐标系 %1</translation>
     </message>
     <message>
-        <source>Name</source>
-        <translation>名称</translation>
+        <source>%1 (itself)</source>
+        <translation>%1（自身）</translation>
     </message>
     <message>
-        <source>Relative to</source>
-        <translation>相对于</translation>
+        <source>%1 (missing)</source>
+        <translation>%1（缺失）</translation>
     </message>
     <message>
-        <source>Coordinates given as</source>
-        <translation>坐标类型</translation>
+        <source>&amp;Name</source>
+        <translation>名称(&amp;N)</translation>
     </message>
     <message>
-        <source>Origin x, y, z, in units of the model</source>
-        <translation>原点 x、y、z，模型单位</translation>
+        <source>&amp;Relative to</source>
+        <translation>相对于(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Coordinates given as</source>
+        <translation>坐标类型(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Origin x, y, z, in units of the model</source>
+        <translation>原点 x、y、z，以模型单位计(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the place: convert the values when another system is chosen</source>
+        <translation>保持位置：选择其他坐标系时换算数值(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Origin x</source>
+        <translation>原点 x</translation>
+    </message>
+    <message>
+        <source>Origin y</source>
+        <translation>原点 y</translation>
+    </message>
+    <message>
+        <source>Origin z</source>
+        <translation>原点 z</translation>
     </message>
 </context>
 <context>
@@ -120,6 +322,29 @@
         <source>Coordinate system %1 is already called &apos;%2&apos;.</source>
         <translation>坐标系 %1 已经叫作“%2”。</translation>
     </message>
+    <message>
+        <source>Global</source>
+        <translation>全局</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CoordinateSystems</name>
+    <message>
+        <source>There is no coordinate system %1.</source>
+        <translation>没有坐标系 %1。</translation>
+    </message>
+    <message>
+        <source>A coordinate system cannot be relative to itself.</source>
+        <translation>坐标系不能相对于自身。</translation>
+    </message>
+    <message>
+        <source>%1 is itself relative to this system, directly or through others: that would be a loop.</source>
+        <translation>%1 本身直接或间接相对于此坐标系：会形成循环。</translation>
+    </message>
+    <message>
+        <source>The library builds a system anew only where its identifier is above 0.</source>
+        <translation>只有标识大于 0 的坐标系才能重建。</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::CoordinateValues</name>
@@ -163,6 +388,14 @@
         <source>Value</source>
         <translation>值</translation>
     </message>
+    <message>
+        <source>Values</source>
+        <translation>数值</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>属性</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::DeleteQuestion</name>
@@ -205,18 +438,26 @@
 <context>
     <name>Workbench::HistogramView</name>
     <message>
-        <source>%1 to %2: %3 elements
-A click selects them, dragging those of several bars; hold Ctrl to add.</source>
-        <translation>%1 至 %2：%3 个单元
-单击选中这些单元，拖动选中多个柱条的单元；按住 Ctrl 追加。</translation>
-    </message>
-    <message>
         <source>no finite value</source>
         <translation>没有有限值</translation>
     </message>
     <message>
         <source>up to %1 elements</source>
         <translation>最多 %1 个单元</translation>
+    </message>
+    <message>
+        <source>%1 to %2: %3 elements</source>
+        <translation>%1 至 %2：%3 个单元</translation>
+    </message>
+    <message>
+        <source>A click selects them, dragging those of several bars; hold Ctrl to add.
+By keys: arrows mark a bar, with Shift several; Space or Enter selects.</source>
+        <translation>单击选中这些单元，拖动选中多个柱；按住 Ctrl 追加。
+键盘：方向键标记一个柱，加 Shift 标记多个；空格或回车选中。</translation>
+    </message>
+    <message>
+        <source>Histogram</source>
+        <translation>直方图</translation>
     </message>
 </context>
 <context>
@@ -265,6 +506,25 @@ A click selects them, dragging those of several bars; hold Ctrl to add.</source>
         <source>Copy</source>
         <translation>复制</translation>
     </message>
+    <message>
+        <source>Comparison</source>
+        <translation>比较</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::KernelChoice</name>
+    <message>
+        <source>The mesh that is shown (%1)</source>
+        <translation>所显示的网格（%1）</translation>
+    </message>
+    <message>
+        <source>Mesh</source>
+        <translation>网格</translation>
+    </message>
+    <message>
+        <source>The mesh whose figures are shown</source>
+        <translation>显示其数据的网格</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::LibraryPane</name>
@@ -295,6 +555,22 @@ A click selects them, dragging those of several bars; hold Ctrl to add.</source>
     <message>
         <source>Compares the selected materials, or all when none is selected, before it copies.</source>
         <translation>复制之前先比较所选材料；未选择时比较全部材料。</translation>
+    </message>
+    <message>
+        <source>Search in: %1</source>
+        <translation>搜索：%1</translation>
+    </message>
+    <message>
+        <source>Only favourites</source>
+        <translation>仅收藏</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>收藏</translation>
+    </message>
+    <message>
+        <source>Marks the selected materials with a star, or takes the stars away</source>
+        <translation>为所选材料加上或去掉星标</translation>
     </message>
 </context>
 <context>
@@ -509,6 +785,46 @@ Version %1</source>
         <source>Pictures (*.png *.jpg)</source>
         <translation>图片 (*.png *.jpg)</translation>
     </message>
+    <message>
+        <source>Coordinate axes</source>
+        <translation>坐标轴</translation>
+    </message>
+    <message>
+        <source>&amp;Name the selection…</source>
+        <translation>命名选择(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>Name the selection</source>
+        <translation>命名选择</translation>
+    </message>
+    <message>
+        <source>Name of the set or group:</source>
+        <translation>集合或组的名称：</translation>
+    </message>
+    <message>
+        <source>Opening %1</source>
+        <translation>正在打开 %1</translation>
+    </message>
+    <message>
+        <source>Saving “%1”</source>
+        <translation>正在保存“%1”</translation>
+    </message>
+    <message>
+        <source>Meshing is under way</source>
+        <translation>正在划分网格</translation>
+    </message>
+    <message>
+        <source>The geometry is being meshed. This stops it.</source>
+        <translation>几何正在划分网格，此操作将中止它。</translation>
+    </message>
+    <message>
+        <source>One file is opened at a time: of %1 only %2.</source>
+        <translation>一次只能打开一个文件：%1 个中只打开 %2。</translation>
+    </message>
+    <message>
+        <source>Go on?</source>
+        <translation>是否继续？</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::MaterialDialog</name>
@@ -525,24 +841,24 @@ Version %1</source>
         <translation>属性 %1</translation>
     </message>
     <message>
-        <source>English name</source>
-        <translation>英文名称</translation>
-    </message>
-    <message>
-        <source>Chinese name</source>
-        <translation>中文名称</translation>
-    </message>
-    <message>
         <source>Property %1, component %2: %3</source>
         <translation>属性 %1，分量 %2：%3</translation>
+    </message>
+    <message>
+        <source>&amp;English name</source>
+        <translation>英文名称(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Chinese name</source>
+        <translation>中文名称(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>属性</translation>
     </message>
 </context>
 <context>
     <name>Workbench::MaterialDock</name>
-    <message>
-        <source>free space</source>
-        <translation>自由空间</translation>
-    </message>
     <message>
         <source>Materials</source>
         <translation>材料</translation>
@@ -593,6 +909,14 @@ Version %1</source>
         <source>Software library</source>
         <translation>软件材料库</translation>
     </message>
+    <message>
+        <source>free space</source>
+        <translation>自由空间</translation>
+    </message>
+    <message>
+        <source>material %1, which is missing</source>
+        <translation>材料 %1，已缺失</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::MaterialTable</name>
@@ -611,6 +935,30 @@ Version %1</source>
     <message>
         <source>Properties</source>
         <translation>属性</translation>
+    </message>
+    <message>
+        <source>this project</source>
+        <translation>本工程</translation>
+    </message>
+    <message>
+        <source>software library, %1 (%2), edited</source>
+        <translation>软件库，%1 (%2)，已编辑</translation>
+    </message>
+    <message>
+        <source>software library, %1 (%2)</source>
+        <translation>软件库，%1 (%2)</translation>
+    </message>
+    <message>
+        <source>a favourite</source>
+        <translation>已收藏</translation>
+    </message>
+    <message>
+        <source>no favourite</source>
+        <translation>未收藏</translation>
+    </message>
+    <message>
+        <source>Origin</source>
+        <translation>来源</translation>
     </message>
 </context>
 <context>
@@ -649,6 +997,10 @@ Version %1</source>
     <message>
         <source>it gave no reason</source>
         <translation>未给出原因</translation>
+    </message>
+    <message>
+        <source>The mesh of %1 could not be moved to %2.</source>
+        <translation>无法将 %1 的网格移动到 %2。</translation>
     </message>
 </context>
 <context>
@@ -694,6 +1046,25 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Workbench::NamedSelections</name>
+    <message>
+        <source>A name must not be empty.</source>
+        <translation>名称不能为空。</translation>
+    </message>
+    <message>
+        <source>The name “%1” is taken.</source>
+        <translation>名称“%1”已被占用。</translation>
+    </message>
+    <message>
+        <source>group %1</source>
+        <translation>组 %1</translation>
+    </message>
+    <message>
+        <source>set %1</source>
+        <translation>集合 %1</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::NumberField</name>
     <message>
         <source>A number is missing.</source>
@@ -731,10 +1102,6 @@ Version %1</source>
         <translation>无法保存工程 %1：%2</translation>
     </message>
     <message>
-        <source>a mesh is being read; wait, or cancel it</source>
-        <translation>正在读取网格；请等待，或将其取消</translation>
-    </message>
-    <message>
         <source>its working files could not be written</source>
         <translation>无法写入其工作文件</translation>
     </message>
@@ -770,16 +1137,16 @@ Version %1</source>
         <source>they were saved with another key, or are damaged. The file is kept in the project</source>
         <translation>材料是用另一密钥保存的，或已损坏。该文件保留在工程中</translation>
     </message>
+    <message>
+        <source>another one is being opened</source>
+        <translation>正在打开另一个工程</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::ProjectArchive</name>
     <message>
         <source>the working files could not be read</source>
         <translation>无法读取工作文件</translation>
-    </message>
-    <message>
-        <source>the file could not be written</source>
-        <translation>无法写入文件</translation>
     </message>
     <message>
         <source>there is no such file</source>
@@ -796,6 +1163,18 @@ Version %1</source>
     <message>
         <source>it is damaged</source>
         <translation>文件已损坏</translation>
+    </message>
+    <message>
+        <source>its content could not be written: %1</source>
+        <translation>无法写入其内容：%1</translation>
+    </message>
+    <message>
+        <source>the file could not be written: %1</source>
+        <translation>无法写入文件：%1</translation>
+    </message>
+    <message>
+        <source>you may not read it</source>
+        <translation>没有读取权限</translation>
     </message>
 </context>
 <context>
@@ -883,40 +1262,48 @@ Version %1</source>
         <source>New name:</source>
         <translation>新名称：</translation>
     </message>
+    <message>
+        <source>Sets</source>
+        <translation>集合</translation>
+    </message>
+    <message>
+        <source>%1 members</source>
+        <translation>%1 个成员</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>未读取</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>读取</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>隐藏</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>选择</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::PropertyEditor</name>
-    <message>
-        <source>The material has this property</source>
-        <translation>材料具有此属性</translation>
-    </message>
     <message>
         <source>other</source>
         <translation>其他</translation>
     </message>
     <message>
-        <source>Quantity</source>
-        <translation>物理量</translation>
-    </message>
-    <message>
-        <source>Kind</source>
-        <translation>类别</translation>
-    </message>
-    <message>
-        <source>Label</source>
-        <translation>标签</translation>
-    </message>
-    <message>
-        <source>Components</source>
-        <translation>分量</translation>
-    </message>
-    <message>
         <source>Unit</source>
         <translation>单位</translation>
-    </message>
-    <message>
-        <source>Remark</source>
-        <translation>备注</translation>
     </message>
     <message>
         <source>unit X; source of the values; conditions</source>
@@ -927,12 +1314,40 @@ Version %1</source>
         <translation>置位；在默认材料库中表示各方向不同</translation>
     </message>
     <message>
-        <source>Flag</source>
-        <translation>标志</translation>
-    </message>
-    <message>
         <source>not known: begin the remark with &apos;unit X&apos;</source>
         <translation>未知：请以“unit X”开始备注</translation>
+    </message>
+    <message>
+        <source>The material &amp;has this property</source>
+        <translation>材料具有此属性(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Quantity</source>
+        <translation>物理量(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation>类别(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Label</source>
+        <translation>标签(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Co&amp;mponents</source>
+        <translation>分量(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Remark</source>
+        <translation>备注(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Flag</source>
+        <translation>标志(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Component %1</source>
+        <translation>分量 %1</translation>
     </message>
 </context>
 <context>
@@ -1111,6 +1526,22 @@ Version %1</source>
         <source>Inverted / flat</source>
         <translation>反转 / 扁平</translation>
     </message>
+    <message>
+        <source>Metric</source>
+        <translation>指标</translation>
+    </message>
+    <message>
+        <source>Lists</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>检查</translation>
+    </message>
+    <message>
+        <source>Check: %1</source>
+        <translation>检查：%1</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::RegionTable</name>
@@ -1150,6 +1581,10 @@ Version %1</source>
         <source>Flat</source>
         <translation>扁平</translation>
     </message>
+    <message>
+        <source>Regions</source>
+        <translation>区域</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::RemovalQuestion</name>
@@ -1168,6 +1603,13 @@ Version %1</source>
     <message>
         <source>Delete %1?</source>
         <translation>删除 %1？</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::ScoreChart</name>
+    <message>
+        <source>Last scores</source>
+        <translation>最近的评分</translation>
     </message>
 </context>
 <context>
@@ -1211,6 +1653,10 @@ Version %1</source>
         <source>Score %1 (0 worst, 1 best)</source>
         <translation>评分 %1（0 最差，1 最好）</translation>
     </message>
+    <message>
+        <source>Of the mesh that was read last, %1:</source>
+        <translation>最后读取的网格 %1：</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::SelectionUndo</name>
@@ -1232,6 +1678,21 @@ Version %1</source>
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+    <message>
+        <source>Saving %1</source>
+        <translation>正在保存 %1</translation>
+    </message>
+    <message>
+        <source>Opening %1</source>
+        <translation>正在打开 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::TransferDialog</name>
+    <message>
+        <source>Please wait</source>
+        <translation>请稍候</translation>
     </message>
 </context>
 <context>
@@ -1270,6 +1731,22 @@ Version %1</source>
     <message>
         <source>A double click or Enter looks at the element</source>
         <translation>双击或按 Enter 查看该单元</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>保存...</translation>
+    </message>
+    <message>
+        <source>Writes the list with all metrics as CSV, as &apos;meshquality report&apos; does</source>
+        <translation>将列表及全部指标写成 CSV，与“meshquality report”相同</translation>
+    </message>
+    <message>
+        <source>Worst elements</source>
+        <translation>最差单元</translation>
+    </message>
+    <message>
+        <source>The list could not be written to %1.</source>
+        <translation>无法将列表写入 %1。</translation>
     </message>
 </context>
 </TS>

@@ -7,20 +7,23 @@
 #include <workbench/material/NumberField.h>
 
 #include <QComboBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 
 namespace Workbench {
 
-AngleFields::AngleFields(QWidget* parent) : QWidget(parent), m_unit(new QComboBox(this))
+AngleFields::AngleFields(QWidget* parent)
+    : QWidget(parent), m_title(new QLabel(this)), m_convention(new QLabel(this)), m_unit(new QComboBox(this))
 {
     for (const char* const name : {"angleX", "angleY", "angleZ"}) {
         m_fields.append(new NumberField(this));
         m_fields.last()->setObjectName(QLatin1String(name));
     }
     m_unit->setObjectName(QStringLiteral("angleUnit"));
-    m_unit->addItems({tr("degrees"), tr("radians")});
+    m_unit->addItems({QString(), QString()});
     layOut();
+    retranslate();
     show();
     connect(m_unit, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &AngleFields::changeUnit);
 }
@@ -29,16 +32,37 @@ void AngleFields::layOut()
 {
     auto* const grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->addWidget(new QLabel(tr("Rotation about x, y, z, in"), this), 0, 0);
+    grid->addWidget(m_title, 0, 0);
+    m_title->setBuddy(m_unit);
     grid->addWidget(m_unit, 0, 1);
     for (int axis = 0; axis < m_fields.size(); ++axis) {
         grid->addWidget(m_fields.at(axis), 1, axis);
     }
-    auto* const convention = new QLabel(tr("Right-handed, about the fixed axes of the basic system (extrinsic): first "
-                                           "about x, then about y, then about z."),
-                                        this);
-    convention->setWordWrap(true);
-    grid->addWidget(convention, 2, 0, 1, 3);
+    m_convention->setWordWrap(true);
+    // Two lines: a form does not grow with a text that wraps.
+    m_convention->setMinimumHeight(2 * m_convention->fontMetrics().lineSpacing());
+    grid->addWidget(m_convention, 2, 0, 1, 3);
+}
+
+void AngleFields::retranslate()
+{
+    m_title->setText(tr("Rotation about x, y, z, &in"));
+    m_unit->setItemText(0, tr("degrees"));
+    m_unit->setItemText(1, tr("radians"));
+    m_convention->setText(tr("Right-handed, about the fixed axes of the basic system (extrinsic): first about x, then "
+                             "about y, then about z."));
+    const QStringList names{tr("Rotation about x"), tr("Rotation about y"), tr("Rotation about z")};
+    for (int axis = 0; axis < m_fields.size(); ++axis) {
+        m_fields.at(axis)->setAccessibleName(names.at(axis));
+    }
+}
+
+void AngleFields::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+    QWidget::changeEvent(event);
 }
 
 void AngleFields::setAngles(const Vector3& angles)

@@ -9,6 +9,7 @@
 #include <QWidget>
 
 class QComboBox;
+class QLabel;
 
 namespace Workbench {
 
@@ -29,14 +30,20 @@ public:
     Vector3 angles() const;
     QList<NumberField*> fields() const;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void layOut();
+    void retranslate();
     void changeUnit();
     void show();
     double angle(int axis) const;
 
     bool m_isInDegrees = true;
     Vector3 m_shown = {0, 0, 0};
+    QLabel* m_title;
+    QLabel* m_convention;
     QComboBox* m_unit;
     QList<NumberField*> m_fields;
 };

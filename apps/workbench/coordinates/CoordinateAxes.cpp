@@ -3,11 +3,10 @@
 
 #include <workbench/coordinates/CoordinateAxes.h>
 
-#include <workbench/coordinates/CoordinateRecord.h>
+#include <workbench/coordinates/CoordinateRegistry.h>
 #include <workbench/coordinates/CoordinateSystems.h>
 
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
-#include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
 
 #include <basemodule/IBaseSignal.h>
 #include <basewidget/FixedPixelSizeAxesActor.h>
@@ -25,11 +24,6 @@ using DataManager::RelativeCoordinateSystem;
 using DataManager::RelativeCoordinateSystemDate;
 
 namespace {
-
-RelativeCoordinateSystemDate& registry()
-{
-    return *RelativeCoordinateSystemDate::getInstance();
-}
 
 /// The X axis carries the name. The fonts of the view have Latin letters only.
 QByteArray axisLabel(const RelativeCoordinateSystem& system)
@@ -67,8 +61,8 @@ CoordinateAxes::CoordinateAxes(QObject* parent) : QObject(parent)
     }
     connect(&m_destruction, &QTimer::timeout, this, &CoordinateAxes::destroyRetired);
     connect(&m_search, &QTimer::timeout, this, &CoordinateAxes::tellOfForeign);
-    connect(&registry(), &RelativeCoordinateSystemDate::signal_dataChanged, this, &CoordinateAxes::place);
-    connect(&registry(), &RelativeCoordinateSystemDate::signal_dataDeleted, this, &CoordinateAxes::retire);
+    connect(&coordinateRegistry(), &RelativeCoordinateSystemDate::signal_dataChanged, this, &CoordinateAxes::place);
+    connect(&coordinateRegistry(), &RelativeCoordinateSystemDate::signal_dataDeleted, this, &CoordinateAxes::retire);
     // All that is heard of systems that somebody else appended.
     connect(BaseModule::IBaseSignal::getInstance(), &BaseModule::IBaseSignal::signal_updateWindowTitle, &m_search,
             QOverload<>::of(&QTimer::start));
@@ -78,15 +72,9 @@ CoordinateAxes::~CoordinateAxes() = default;
 
 void CoordinateAxes::place()
 {
-    const CoordinateTree tree = CoordinateSystems::tree();
-    QVector<Placement> placements(tree.nodes.size());
-    for (const int position : tree.downwards()) {
-        RelativeCoordinateSystem& system = *registry().getCoordinateSystemByIndex(position);
-        const CoordinateDefinition definition = coordinateDefinition(system);
-        const Placement local = placed(definition.offset, definition.angles);
-        const int parent = tree.nodes.at(position).parent;
-        placements[position] = parent < 0 ? local : carried(placements.at(parent), local);
-        placeOne(system, placements.at(position));
+    const QVector<Placement> placements = CoordinateSystems::placements(CoordinateSystems::tree());
+    for (int position = 0; position < placements.size(); ++position) {
+        placeOne(*coordinateRegistry().getCoordinateSystemByIndex(position), placements.at(position));
     }
     updateVisibility();
 }
@@ -162,7 +150,7 @@ void CoordinateAxes::destroyRetired()
 {
     for (const std::unique_ptr<Axes>& retired : m_retired) {
         RelativeCoordinateSystem* const system = retired->system;
-        if (system != nullptr && registry().getIndexByCoordinateSystem(system) < 0) {
+        if (system != nullptr && coordinateRegistry().getIndexByCoordinateSystem(system) < 0) {
             m_axes.erase(system);
             delete system;
         } else if (system != nullptr && m_axes.count(system) == 0) {
@@ -177,9 +165,9 @@ void CoordinateAxes::destroyRetired()
 
 void CoordinateAxes::tellOfForeign()
 {
-    for (int i = 0; i < registry().getRelativeCoordinateSystemDateCount(); ++i) {
-        if (registry().getCoordinateSystemByIndex(i)->getActor() == nullptr) {
-            registry().setCurrentCoordinateSystemID(registry().getCurrentCoordinateSystemID());
+    for (int i = 0; i < coordinateRegistry().getRelativeCoordinateSystemDateCount(); ++i) {
+        if (coordinateRegistry().getCoordinateSystemByIndex(i)->getActor() == nullptr) {
+            coordinateRegistry().setCurrentCoordinateSystemID(coordinateRegistry().getCurrentCoordinateSystemID());
             return;
         }
     }

@@ -4,20 +4,24 @@
 #pragma once
 
 #include <workbench/coordinates/CoordinateDefinition.h>
+#include <workbench/dialog/FieldLabels.h>
 
 #include <QDialog>
 
+#include <array>
+
+class QCheckBox;
 class QComboBox;
-class QLabel;
 class QLineEdit;
 
 namespace Workbench {
 
 class AngleFields;
 class NumberField;
+class Refusal;
 
 /// Creates a coordinate system relative to any other, or changes one. Accepting it makes the change; what is no number
-/// or no name is refused with the reason, and the dialog stays.
+/// or no name, and a basic system that closes a loop, is refused with the reason, and the dialog stays.
 class CoordinateDialog : public QDialog
 {
     Q_OBJECT
@@ -31,26 +35,38 @@ public:
     void accept() override;
     void done(int result) override;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     /// `id` 0 stands for a new system.
     CoordinateDialog(int id, int basicID, QWidget* parent);
 
     void nameFields();
-    void listBasicSystems(int basicID);
+    void listBasicSystems();
     void listTypes(BaseModule::CoordinateSystemType type);
     void layOut();
     QLayout* layOutOffset();
+    void retranslate();
+    void fill(const CoordinateDefinition& definition);
+
+    int chosenBasic() const;
+    void changeBasic();
     bool check();
-    void refuse(const QString& reason, QWidget* field);
+    bool checkNumbers();
     CoordinateDefinition definition() const;
 
     int m_id;
+    /// The basic system in which the fields are meant.
+    int m_basicID;
     QLineEdit* m_name;
     QComboBox* m_basic;
+    QCheckBox* m_keepsPlace;
     QComboBox* m_type;
-    NumberField* m_offset[3];
+    std::array<NumberField*, 3> m_offset;
     AngleFields* m_angles;
-    QLabel* m_refusal;
+    Refusal* m_refusal;
+    FieldLabels m_labels;
 };
 
 } // namespace Workbench

@@ -5,14 +5,17 @@
 
 #include <workbench/coordinates/CoordinateDialog.h>
 #include <workbench/coordinates/CoordinateName.h>
+#include <workbench/coordinates/CoordinateRegistry.h>
 #include <workbench/coordinates/CoordinateSystems.h>
 #include <workbench/coordinates/CoordinateValues.h>
 #include <workbench/coordinates/RemovalQuestion.h>
 
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
-#include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
+#include <datamanager/selection/SelectedDataManager.h>
 
 #include <basemodule/IBaseSignal.h>
+#include <basemodule/SelectModel.h>
+#include <datamodel/SelectedDataBase.h>
 
 #include <QCheckBox>
 #include <QEvent>
@@ -37,11 +40,6 @@ enum Column : int
     FaultColumn
 };
 
-RelativeCoordinateSystemDate& registry()
-{
-    return *RelativeCoordinateSystemDate::getInstance();
-}
-
 QString faultText(const CoordinateTree::Node& node)
 {
     switch (node.fault) {
@@ -58,12 +56,12 @@ QString faultText(const CoordinateTree::Node& node)
 QTreeWidgetItem* newItem(const RelativeCoordinateSystem& system, const CoordinateTree::Node& node)
 {
     const auto type = CoordinateSystems::definition(node.id).type;
-    auto* const item =
-        new QTreeWidgetItem({system.getName(), QString::number(node.id), coordinateTypeTitle(type), faultText(node)});
+    auto* const item = new QTreeWidgetItem(
+        {coordinateName(system), QString::number(node.id), coordinateTypeTitle(type), faultText(node)});
     item->setData(NameColumn, Qt::UserRole, node.id);
     item->setCheckState(NameColumn, CoordinateSystems::instance()->areAxesShown(node.id) ? Qt::Checked : Qt::Unchecked);
     QFont font = item->font(NameColumn);
-    font.setBold(node.id == registry().getCurrentCoordinateSystemID());
+    font.setBold(node.id == coordinateRegistry().getCurrentCoordinateSystemID());
     item->setFont(NameColumn, font);
     return item;
 }
@@ -120,20 +118,32 @@ void CoordinateDock::layOut()
 
 void CoordinateDock::listen()
 {
-    connect(&registry(), &RelativeCoordinateSystemDate::signal_dataChanged, this, &CoordinateDock::read);
+    connect(&coordinateRegistry(), &RelativeCoordinateSystemDate::signal_dataChanged, this, &CoordinateDock::read);
     // Before systems go; and all that is heard when somebody else appends some, many at a time.
     m_update.setSingleShot(true);
     m_update.setInterval(0);
     connect(&m_update, &QTimer::timeout, this, &CoordinateDock::read);
     const auto updateSoon = QOverload<>::of(&QTimer::start);
-    connect(&registry(), &RelativeCoordinateSystemDate::signal_dataDeleted, &m_update, updateSoon);
+    connect(&coordinateRegistry(), &RelativeCoordinateSystemDate::signal_dataDeleted, &m_update, updateSoon);
     connect(BaseModule::IBaseSignal::getInstance(), &BaseModule::IBaseSignal::signal_updateWindowTitle, &m_update,
             updateSoon);
+    connect(BaseModule::IBaseSignal::getInstance(), &BaseModule::IBaseSignal::signal_refreshActionOnSelectDataChanged,
+            this, &CoordinateDock::chooseSelected);
+}
+
+// A system that is selected alone, in the view or the project tree, is the one to look at.
+void CoordinateDock::chooseSelected()
+{
+    const auto items = DataManager::SelectedDataManager::getInstance()->getSelectedDataList();
+    if (items.size() == 1 && items.constFirst()->getSelectModel() == BaseModule::CoordinateAxes) {
+        choose(items.constFirst()->getFirstID());
+    }
 }
 
 void CoordinateDock::retranslate()
 {
     setWindowTitle(tr("Coordinate systems"));
+    m_tree->setAccessibleName(windowTitle());
     m_tree->setHeaderLabels({tr("Name"), tr("ID"), tr("Type"), tr("Fault")});
     m_create->setText(tr("New below..."));
     m_change->setText(tr("Change..."));
@@ -162,7 +172,7 @@ void CoordinateDock::read()
     QVector<QTreeWidgetItem*> items(tree.nodes.size());
     for (const int position : tree.downwards()) {
         const CoordinateTree::Node& node = tree.nodes.at(position);
-        items[position] = newItem(*registry().getCoordinateSystemByIndex(position), node);
+        items[position] = newItem(*coordinateRegistry().getCoordinateSystemByIndex(position), node);
         if (node.parent < 0) {
             m_tree->addTopLevelItem(items.at(position));
         } else {
@@ -200,7 +210,7 @@ void CoordinateDock::updateChosen()
     const int id = chosenID();
     m_change->setEnabled(id != 0);
     m_remove->setEnabled(id != 0);
-    m_makeCurrent->setEnabled(id != registry().getCurrentCoordinateSystemID());
+    m_makeCurrent->setEnabled(id != coordinateRegistry().getCurrentCoordinateSystemID());
     m_values->show(id);
 }
 

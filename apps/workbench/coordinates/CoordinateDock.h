@@ -35,6 +35,7 @@ private:
     void retranslate();
 
     void read();
+    void chooseSelected();
     void choose(int id);
     int chosenID() const;
     void updateChosen();

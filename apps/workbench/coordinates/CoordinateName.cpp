@@ -3,8 +3,9 @@
 
 #include <workbench/coordinates/CoordinateName.h>
 
+#include <workbench/coordinates/CoordinateRegistry.h>
+
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
-#include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
 
 #include <QCoreApplication>
 
@@ -22,9 +23,14 @@ class Texts
 
 } // namespace
 
+QString coordinateName(const RelativeCoordinateSystem& system)
+{
+    return system.getID() == 0 ? Texts::tr("Global") : system.getName();
+}
+
 QString coordinateTitle(const RelativeCoordinateSystem& system)
 {
-    return QStringLiteral("%1 (%2)").arg(system.getName(), QString::number(system.getID()));
+    return QStringLiteral("%1 (%2)").arg(coordinateName(system), QString::number(system.getID()));
 }
 
 QString coordinateTypeTitle(BaseModule::CoordinateSystemType type)
@@ -45,7 +51,7 @@ QString coordinateNameRefusal(const QString& name, int id)
     if (name.trimmed().isEmpty()) {
         return Texts::tr("A coordinate system needs a name.");
     }
-    const RelativeCoordinateSystemDate& registry = *RelativeCoordinateSystemDate::getInstance();
+    const RelativeCoordinateSystemDate& registry = coordinateRegistry();
     for (int i = 0; i < registry.getRelativeCoordinateSystemDateCount(); ++i) {
         const RelativeCoordinateSystem& system = *registry.getCoordinateSystemByIndex(i);
         const bool isOther = id == 0 || system.getID() != id;

@@ -13,6 +13,9 @@ class RelativeCoordinateSystem;
 
 namespace Workbench {
 
+/// "Spindle"; the global system's name in the interface language.
+QString coordinateName(const DataManager::RelativeCoordinateSystem& system);
+
 /// "Spindle (3)"
 QString coordinateTitle(const DataManager::RelativeCoordinateSystem& system);
 

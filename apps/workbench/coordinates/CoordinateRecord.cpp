@@ -77,6 +77,11 @@ CoordinateDefinition coordinateDefinition(const RelativeCoordinateSystem& record
             lastLevel(record.getRotateDirectionListPairList(), id)};
 }
 
+void rebaseCoordinateRecord(RelativeCoordinateSystem& record, const CoordinateDefinition& definition)
+{
+    setLevel(record, definition, record.getID(), record.getBasicCoordinateSystemID(), append);
+}
+
 void changeCoordinateLevel(RelativeCoordinateSystem& record, int ownerID, const CoordinateDefinition& definition)
 {
     setLevel(record, definition, ownerID, record.getBasicCoordinateSystemID(), ownerID);

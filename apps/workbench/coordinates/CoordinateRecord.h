@@ -18,6 +18,9 @@ DataManager::RelativeCoordinateSystem* newCoordinateRecord(int id, int basicID, 
 /// The record's own level, which is the last one of each chain. What is missing there has its default.
 CoordinateDefinition coordinateDefinition(const DataManager::RelativeCoordinateSystem& record);
 
+/// Builds the record's chains anew: those of its basic system and one level of its own. Its identifier is above 0.
+void rebaseCoordinateRecord(DataManager::RelativeCoordinateSystem& record, const CoordinateDefinition& definition);
+
 /// Gives the levels of this owner in the record's chains new values. Other levels stay.
 void changeCoordinateLevel(DataManager::RelativeCoordinateSystem& record, int ownerID,
                            const CoordinateDefinition& definition);

@@ -4,10 +4,11 @@
 #include <workbench/coordinates/CoordinateSystems.h>
 
 #include <workbench/coordinates/CoordinateAxes.h>
+#include <workbench/coordinates/CoordinateName.h>
 #include <workbench/coordinates/CoordinateRecord.h>
+#include <workbench/coordinates/CoordinateRegistry.h>
 
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
-#include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
 
 #include <basemodule/GlobalHelper.h>
 
@@ -18,19 +19,13 @@
 namespace Workbench {
 
 using DataManager::RelativeCoordinateSystem;
-using DataManager::RelativeCoordinateSystemDate;
 
 namespace {
-
-RelativeCoordinateSystemDate& registry()
-{
-    return *RelativeCoordinateSystemDate::getInstance();
-}
 
 /// The registry tells of a change in this way only.
 void tellChange()
 {
-    registry().setCurrentCoordinateSystemID(registry().getCurrentCoordinateSystemID());
+    coordinateRegistry().setCurrentCoordinateSystemID(coordinateRegistry().getCurrentCoordinateSystemID());
 }
 
 /// Appending writes the project's file, which may hold systems that are still to be read: so it is done in another
@@ -40,15 +35,15 @@ void appendGlobalSystem()
     const QTemporaryDir elsewhere;
     const QString directory = BaseModule::GlobalHelper::getProjectTempIODir();
     BaseModule::GlobalHelper::setProjectTempIODir(elsewhere.path());
-    registry().appendCoordinateSystem(newCoordinateRecord(0, 0, {QStringLiteral("Global")}));
+    coordinateRegistry().appendCoordinateSystem(newCoordinateRecord(0, 0, {QStringLiteral("Global")}));
     BaseModule::GlobalHelper::setProjectTempIODir(directory);
 }
 
 int nextID()
 {
     int highest = 0;
-    for (int i = 0; i < registry().getRelativeCoordinateSystemDateCount(); ++i) {
-        highest = std::max(highest, registry().getCoordinateSystemByIndex(i)->getID());
+    for (int i = 0; i < coordinateRegistry().getRelativeCoordinateSystemDateCount(); ++i) {
+        highest = std::max(highest, coordinateRegistry().getCoordinateSystemByIndex(i)->getID());
     }
     return highest + 1;
 }
@@ -63,7 +58,7 @@ CoordinateSystems* CoordinateSystems::instance()
 
 CoordinateSystems::CoordinateSystems() : m_axes(new CoordinateAxes(this))
 {
-    if (registry().getRelativeCoordinateSystemDateCount() == 0) {
+    if (coordinateRegistry().getRelativeCoordinateSystemDateCount() == 0) {
         appendGlobalSystem();
     }
     tellChange();
@@ -72,8 +67,8 @@ CoordinateSystems::CoordinateSystems() : m_axes(new CoordinateAxes(this))
 CoordinateTree CoordinateSystems::tree()
 {
     QVector<QPair<int, int>> systems;
-    for (int i = 0; i < registry().getRelativeCoordinateSystemDateCount(); ++i) {
-        const RelativeCoordinateSystem& system = *registry().getCoordinateSystemByIndex(i);
+    for (int i = 0; i < coordinateRegistry().getRelativeCoordinateSystemDateCount(); ++i) {
+        const RelativeCoordinateSystem& system = *coordinateRegistry().getCoordinateSystemByIndex(i);
         systems.append({system.getID(), system.getBasicCoordinateSystemID()});
     }
     return makeCoordinateTree(systems);
@@ -81,34 +76,92 @@ CoordinateTree CoordinateSystems::tree()
 
 CoordinateDefinition CoordinateSystems::definition(int id)
 {
-    const RelativeCoordinateSystem* const system = registry().getCoordinateSystemByID(id);
+    const RelativeCoordinateSystem* const system = coordinateRegistry().getCoordinateSystemByID(id);
     return system == nullptr ? CoordinateDefinition() : coordinateDefinition(*system);
+}
+
+QVector<Placement> CoordinateSystems::placements(const CoordinateTree& tree)
+{
+    QVector<Placement> placements(tree.nodes.size());
+    for (const int position : tree.downwards()) {
+        const CoordinateDefinition definition =
+            coordinateDefinition(*coordinateRegistry().getCoordinateSystemByIndex(position));
+        const Placement local = placed(definition.offset, definition.angles);
+        const int parent = tree.nodes.at(position).parent;
+        placements[position] = parent < 0 ? local : carried(placements.at(parent), local);
+    }
+    return placements;
+}
+
+Placement CoordinateSystems::placement(int id)
+{
+    const CoordinateTree systems = tree();
+    const auto node = std::find_if(systems.nodes.begin(), systems.nodes.end(),
+                                   [id](const CoordinateTree::Node& other) { return other.id == id; });
+    return node == systems.nodes.end() ? Placement()
+                                       : placements(systems).at(static_cast<int>(node - systems.nodes.begin()));
 }
 
 int CoordinateSystems::create(int basicID, const CoordinateDefinition& definition)
 {
-    if (registry().getCoordinateSystemByID(basicID) == nullptr) {
+    if (coordinateRegistry().getCoordinateSystemByID(basicID) == nullptr) {
         return 0;
     }
     const int id = nextID();
-    registry().appendCoordinateSystem(newCoordinateRecord(id, basicID, definition));
+    coordinateRegistry().appendCoordinateSystem(newCoordinateRecord(id, basicID, definition));
     tellChange();
     return id;
 }
 
 void CoordinateSystems::change(int id, const CoordinateDefinition& definition)
 {
-    RelativeCoordinateSystem* const system = registry().getCoordinateSystemByID(id);
+    RelativeCoordinateSystem* const system = coordinateRegistry().getCoordinateSystemByID(id);
     if (system == nullptr || id == 0) {
         return;
     }
     system->setName(definition.name);
     // The systems below hold copies of this level.
-    for (int i = 0; i < registry().getRelativeCoordinateSystemDateCount(); ++i) {
-        changeCoordinateLevel(*registry().getCoordinateSystemByIndex(i), id, definition);
+    for (int i = 0; i < coordinateRegistry().getRelativeCoordinateSystemDateCount(); ++i) {
+        changeCoordinateLevel(*coordinateRegistry().getCoordinateSystemByIndex(i), id, definition);
     }
-    registry().writeConfig();
+    coordinateRegistry().writeConfig();
     tellChange();
+}
+
+void CoordinateSystems::change(int id, int basicID, const CoordinateDefinition& definition)
+{
+    RelativeCoordinateSystem* const system = coordinateRegistry().getCoordinateSystemByID(id);
+    if (system == nullptr || id == 0 || !basicRefusal(id, basicID).isEmpty()) {
+        return;
+    }
+    system->setName(definition.name);
+    system->setBasicCoordinateSystemID(basicID);
+    rebaseCoordinateRecord(*system, definition);
+    // Their chains begin with that of this system. Basic systems come first.
+    for (const int below : tree().below(id)) {
+        RelativeCoordinateSystem& record = *coordinateRegistry().getCoordinateSystemByID(below);
+        rebaseCoordinateRecord(record, coordinateDefinition(record));
+    }
+    coordinateRegistry().writeConfig();
+    tellChange();
+}
+
+QString CoordinateSystems::basicRefusal(int id, int basicID)
+{
+    const RelativeCoordinateSystem* const basic = coordinateRegistry().getCoordinateSystemByID(basicID);
+    if (basic == nullptr) {
+        return tr("There is no coordinate system %1.").arg(basicID);
+    }
+    if (basicID == id) {
+        return tr("A coordinate system cannot be relative to itself.");
+    }
+    const QVector<int> below = tree().below(id);
+    if (below.contains(basicID)) {
+        return tr("%1 is itself relative to this system, directly or through others: that would be a loop.")
+            .arg(coordinateTitle(*basic));
+    }
+    const bool isOdd = id < 1 || std::any_of(below.begin(), below.end(), [](int other) { return other < 1; });
+    return isOdd ? tr("The library builds a system anew only where its identifier is above 0.") : QString();
 }
 
 void CoordinateSystems::remove(const QList<int>& ids)
@@ -116,7 +169,7 @@ void CoordinateSystems::remove(const QList<int>& ids)
     const CoordinateTree systems = tree();
     QList<int> all;
     for (const int id : ids) {
-        if (id != 0 && registry().getCoordinateSystemByID(id) != nullptr) {
+        if (id != 0 && coordinateRegistry().getCoordinateSystemByID(id) != nullptr) {
             all += QList<int>{id} + systems.below(id).toList();
         }
     }
@@ -126,16 +179,16 @@ void CoordinateSystems::remove(const QList<int>& ids)
     // What two of the given ones share stands once.
     std::sort(all.begin(), all.end());
     all.erase(std::unique(all.begin(), all.end()), all.end());
-    registry().removeCoordinateSystemByID(all);
-    const int current = registry().getCurrentCoordinateSystemID();
-    registry().setCurrentCoordinateSystemID(all.contains(current) ? 0 : current);
+    coordinateRegistry().removeCoordinateSystemByID(all);
+    const int current = coordinateRegistry().getCurrentCoordinateSystemID();
+    coordinateRegistry().setCurrentCoordinateSystemID(all.contains(current) ? 0 : current);
 }
 
 void CoordinateSystems::setCurrent(int id)
 {
-    registry().setSwitchCoordinateSystemSign(true);
-    registry().setCurrentCoordinateSystemID(id);
-    registry().setSwitchCoordinateSystemSign(false);
+    coordinateRegistry().setSwitchCoordinateSystemSign(true);
+    coordinateRegistry().setCurrentCoordinateSystemID(id);
+    coordinateRegistry().setSwitchCoordinateSystemSign(false);
 }
 
 bool CoordinateSystems::areAxesShown() const
@@ -162,14 +215,14 @@ void CoordinateSystems::showAxes(int id, bool isShown)
 
 void CoordinateSystems::loadProject()
 {
-    registry().resetData();
-    registry().readConfig();
+    coordinateRegistry().resetData();
+    coordinateRegistry().readConfig();
     tellChange();
 }
 
 void CoordinateSystems::clearProject()
 {
-    registry().resetData();
+    coordinateRegistry().resetData();
 }
 
 } // namespace Workbench

@@ -27,6 +27,10 @@ public:
 
     /// How the registered systems hang together, in the registry's order.
     static CoordinateTree tree();
+    /// Where the systems of the tree stand in global coordinates, in its order; those at the top as if global.
+    static QVector<Placement> placements(const CoordinateTree& tree);
+    /// The same of one system; that of the global one when there is no such system.
+    static Placement placement(int id);
     /// The system's own level; defaults when there is no such system.
     static CoordinateDefinition definition(int id);
 
@@ -35,6 +39,11 @@ public:
     int create(int basicID, const CoordinateDefinition& definition);
     /// Changes a system and with it all systems below. Nothing happens for the global system and unknown ones.
     void change(int id, const CoordinateDefinition& definition);
+    /// The same, and makes it relative to another basic system; the definition is then meant in that one. Systems below
+    /// go with it. Nothing happens where `basicRefusal` has a reason.
+    void change(int id, int basicID, const CoordinateDefinition& definition);
+    /// Why a system cannot be made relative to another one, for the user; empty when it can.
+    static QString basicRefusal(int id, int basicID);
     /// Removes systems with all systems below them, except the global one. When the current system goes, the global
     /// one becomes current.
     void remove(const QList<int>& ids);

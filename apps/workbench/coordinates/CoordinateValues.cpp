@@ -5,10 +5,10 @@
 
 #include <materials/NumberText.h>
 #include <workbench/coordinates/Angle.h>
+#include <workbench/coordinates/CoordinateRegistry.h>
 #include <workbench/coordinates/CoordinateSystems.h>
 
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
-#include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
 
 #include <datamodel/PropertyTableData.h>
 
@@ -23,13 +23,12 @@
 namespace Workbench {
 
 using DataManager::RelativeCoordinateSystem;
-using DataManager::RelativeCoordinateSystemDate;
 
 namespace {
 
 RelativeCoordinateSystem* systemOf(int id)
 {
-    return RelativeCoordinateSystemDate::getInstance()->getCoordinateSystemByID(id);
+    return coordinateRegistry().getCoordinateSystemByID(id);
 }
 
 /// The rotation that the matrix of the system's actor holds.
@@ -75,7 +74,12 @@ CoordinateValues::CoordinateValues(QWidget* parent)
 
 void CoordinateValues::retranslate()
 {
+    m_values->setAccessibleName(tr("Values"));
+    m_properties->setAccessibleName(tr("Properties"));
     m_values->setHorizontalHeaderLabels({tr("In the basic system"), tr("Global")});
+    QHeaderView& header = *m_values->horizontalHeader();
+    header.setMinimumSectionSize(-1);
+    header.setMinimumSectionSize(std::max(header.sectionSizeHint(0), header.sectionSizeHint(1)));
     m_values->setVerticalHeaderLabels({tr("Origin x"), tr("Origin y"), tr("Origin z"), tr("Rotation x [deg]"),
                                        tr("Rotation y [deg]"), tr("Rotation z [deg]")});
     m_properties->setHorizontalHeaderLabels({tr("Property"), tr("Value")});

@@ -60,6 +60,17 @@ Placement carried(const Placement& basic, const Placement& local)
     return {carriedPoint(basic, local.origin), product(basic.rows, local.rows)};
 }
 
+Placement seenFrom(const Placement& basic, const Placement& placement)
+{
+    Placement back; // the inverse of a rotation is its transpose
+    Vector3 way;
+    for (std::size_t row = 0; row < 3; ++row) {
+        back.rows[row] = {basic.rows[0][row], basic.rows[1][row], basic.rows[2][row]};
+        way[row] = placement.origin[row] - basic.origin[row];
+    }
+    return carried(back, {way, placement.rows});
+}
+
 Vector3 carriedPoint(const Placement& placement, const Vector3& point)
 {
     Vector3 result;

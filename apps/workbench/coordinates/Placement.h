@@ -23,6 +23,9 @@ Placement placed(const Vector3& origin, const Vector3& angles);
 /// The placement in global coordinates of a system that has `local` in a basic system, which has `basic`.
 Placement carried(const Placement& basic, const Placement& local);
 
+/// The other way round: the local placement that `carried` takes to `placement`.
+Placement seenFrom(const Placement& basic, const Placement& placement);
+
 /// The point or the angles in the sense of `placed`. Where the second angle is a right one, the third one is 0.
 Vector3 carriedPoint(const Placement& placement, const Vector3& point);
 Vector3 anglesOf(const Placement& placement);

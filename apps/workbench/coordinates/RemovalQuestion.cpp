@@ -4,13 +4,11 @@
 #include <workbench/coordinates/RemovalQuestion.h>
 
 #include <workbench/coordinates/CoordinateName.h>
+#include <workbench/coordinates/CoordinateRegistry.h>
 #include <workbench/coordinates/CoordinateSystems.h>
+#include <workbench/dialog/Question.h>
 
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
-#include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
-
-#include <QLabel>
-#include <QMessageBox>
 
 namespace Workbench {
 
@@ -18,7 +16,7 @@ namespace {
 
 QString titleOf(int id)
 {
-    return coordinateTitle(*DataManager::RelativeCoordinateSystemDate::getInstance()->getCoordinateSystemByID(id));
+    return coordinateTitle(*coordinateRegistry().getCoordinateSystemByID(id));
 }
 
 QString dependentsText(int id)
@@ -36,26 +34,17 @@ QString dependentsText(int id)
 
 void RemovalQuestion::openFor(int id, QWidget* parent)
 {
-    const auto* const system = DataManager::RelativeCoordinateSystemDate::getInstance()->getCoordinateSystemByID(id);
-    if (id == 0 || system == nullptr) {
+    if (id == 0 || coordinateRegistry().getCoordinateSystemByID(id) == nullptr) {
         return;
     }
-    auto* const question =
-        new QMessageBox(QMessageBox::Question, tr("Coordinate systems"), tr("Delete %1?").arg(titleOf(id)),
-                        QMessageBox::Yes | QMessageBox::Cancel, parent);
-    question->setObjectName(QStringLiteral("removalQuestion"));
-    question->setInformativeText(dependentsText(id));
-    // Names are no markup.
-    question->setTextFormat(Qt::PlainText);
-    question->findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"))->setTextFormat(Qt::PlainText);
-    question->setDefaultButton(QMessageBox::Cancel);
-    question->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(question, &QMessageBox::finished, [id](int answer) {
-        if (answer == QMessageBox::Yes) {
-            CoordinateSystems::instance()->remove({id});
-        }
-    });
-    question->open();
+    // It may have gone while the question stood.
+    const auto texts = [id] {
+        const bool isThere = coordinateRegistry().getCoordinateSystemByID(id) != nullptr;
+        return Question::Texts{tr("Coordinate systems"), tr("Delete %1?").arg(isThere ? titleOf(id) : QString()),
+                               dependentsText(id)};
+    };
+    const auto remove = [id] { CoordinateSystems::instance()->remove({id}); };
+    (new Question(QStringLiteral("removalQuestion"), texts, remove, parent))->open();
 }
 
 } // namespace Workbench

@@ -7,6 +7,7 @@
 
 #include <datamanager/frame/IdaIGeometryManager.h>
 
+#include <QMap>
 #include <QSet>
 
 class QJsonObject;
@@ -16,8 +17,9 @@ namespace Workbench {
 /// The volumes of the project, with their faces and materials.
 ///
 /// A component is a volume. It is known by its name, and while a mesh is loaded stands for the elements of one physical
-/// group of that mesh; its faces are then the pieces of that group's skin. Reading the same geometry's mesh again keeps
-/// components, with their identifiers and materials, whose group is found again.
+/// group of that mesh; its faces are then the pieces of that group's skin. A mesh of the same origin (MeshSource) keeps
+/// components, with their identifiers, names and materials, whose group is found again, by its name or, where it has
+/// none or a new one, by its number. A mesh of another origin makes new ones.
 ///
 /// Selected items: (component, -1) under GeometryComponent, (component, face) under GeometryFace, (set, -1) under
 /// GeometrySet.
@@ -98,7 +100,10 @@ private:
         int materialID = 0;
         bool isShown = true;
         int kernelID = 0;
+        /// The group that it stands for or stood for last, and the origin of the mesh.
         int volumeTag = 0;
+        QString groupName;
+        QString origin;
         QMap<int, Face> faces;
         QVector<double> box;
     };
@@ -115,7 +120,9 @@ private:
     void takeKernels(const QList<int>& kernelIDList);
     void dropKernels(const QList<int>& kernelIDList);
     void takeKernel(int kernelID, QSet<int>& changed);
-    int componentForVolume(int kernelID, int volumeTag, const QString& name);
+    void wakeComponents(int kernelID);
+    int waitingComponent(const QString& origin, int volumeTag, const QMap<int, QString>& groupNames) const;
+    void nameAfterGroup(int componentID, const QString& groupName);
     void removeForgotten();
 
     QJsonObject componentToJson(int componentID) const;

@@ -30,6 +30,14 @@ QString keyVolume()
 {
     return QStringLiteral("volumeGroup");
 }
+QString keyGroupName()
+{
+    return QStringLiteral("groupName");
+}
+QString keyOrigin()
+{
+    return QStringLiteral("origin");
+}
 QString keyShown()
 {
     return QStringLiteral("shown");
@@ -59,6 +67,8 @@ QJsonObject GeometryManager::componentToJson(int componentID) const
             {keyName(), component.name},
             {keyMaterial(), component.materialID},
             {keyVolume(), component.volumeTag},
+            {keyGroupName(), component.groupName},
+            {keyOrigin(), component.origin},
             {keyShown(), component.isShown},
             {keyFile(), component.filePath}};
 }
@@ -99,6 +109,8 @@ void GeometryManager::takeJson(const QJsonObject& object)
         component.name = entry.value(keyName()).toString();
         component.materialID = entry.value(keyMaterial()).toInt();
         component.volumeTag = entry.value(keyVolume()).toInt();
+        component.groupName = entry.value(keyGroupName()).toString();
+        component.origin = entry.value(keyOrigin()).toString();
         component.isShown = entry.value(keyShown()).toBool(true);
         component.filePath = entry.value(keyFile()).toString();
         if (componentID > 0 && componentID <= largestPossibleID && !m_components.contains(componentID) &&

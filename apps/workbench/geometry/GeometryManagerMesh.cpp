@@ -32,6 +32,16 @@ QVector<double> boxOfVolume(const KernelMesh& mesh, int volumeTag)
     return box;
 }
 
+// The volume groups that have elements.
+QMap<int, QString> namesOfVolumes(const KernelMesh& mesh)
+{
+    QMap<int, QString> names;
+    for (const FacePatch& patch : mesh.patches) {
+        names.insert(patch.volumeTag, mesh.report.groupNames().value(patch.volumeTag));
+    }
+    return names;
+}
+
 } // namespace
 
 int GeometryManager::getKernelID(int componentID) const
@@ -77,13 +87,23 @@ int GeometryManager::getFaceTriangleCount(int componentID, int faceID) const
     return m_components.value(componentID).faces.value(faceID).triangleCount;
 }
 
+// Those that stay are found first, so that the names of those that go are free for new ones.
 void GeometryManager::takeKernels(const QList<int>& kernelIDList)
 {
-    QSet<int> changed;
+    QList<int> taken;
     for (int kernelID : kernelIDList) {
-        takeKernel(kernelID, changed);
+        const auto isOfKernel = [kernelID](const Component& component) { return component.kernelID == kernelID; };
+        const bool isKnown = std::any_of(m_components.cbegin(), m_components.cend(), isOfKernel);
+        if (!isKnown && MeshManager::instance()->mesh(kernelID)) { // else only its name changed
+            wakeComponents(kernelID);
+            taken.append(kernelID);
+        }
     }
     removeForgotten();
+    QSet<int> changed;
+    for (int kernelID : qAsConst(taken)) {
+        takeKernel(kernelID, changed);
+    }
     QList<int> changedList = changed.values();
     std::sort(changedList.begin(), changedList.end());
     if (!changedList.isEmpty()) {
@@ -91,43 +111,72 @@ void GeometryManager::takeKernels(const QList<int>& kernelIDList)
     }
 }
 
-void GeometryManager::takeKernel(int kernelID, QSet<int>& changed)
+void GeometryManager::wakeComponents(int kernelID)
 {
-    const QSharedPointer<const KernelMesh> mesh = MeshManager::instance()->mesh(kernelID);
-    const auto isOfKernel = [kernelID](const Component& component) { return component.kernelID == kernelID; };
-    if (!mesh || std::any_of(m_components.cbegin(), m_components.cend(), isOfKernel)) {
-        return; // only the kernel's name changed
-    }
-    for (const FacePatch& patch : mesh->patches) {
-        const QString name = mesh->report.groupNames().value(patch.volumeTag);
-        const int componentID = componentForVolume(kernelID, patch.volumeTag, name);
-        Component& component = m_components[componentID];
-        component.faces.insert(patch.faceID, {patch.name, patch.isGroup, patch.triangleCount});
-        if (component.box.isEmpty()) {
-            component.box = boxOfVolume(*mesh, patch.volumeTag);
+    const QMap<int, QString> groupNames = namesOfVolumes(*MeshManager::instance()->mesh(kernelID));
+    const QString origin = MeshManager::instance()->getOrigin(kernelID);
+    for (int volumeTag : groupNames.keys()) {
+        const int componentID = waitingComponent(origin, volumeTag, groupNames);
+        if (componentID > 0) {
+            m_components[componentID].kernelID = kernelID;
+            m_components[componentID].volumeTag = volumeTag;
         }
-        changed.insert(componentID);
     }
 }
 
-// The component that stands for the volume already, else one without mesh that it can stand for, else a new one.
-int GeometryManager::componentForVolume(int kernelID, int volumeTag, const QString& name)
+void GeometryManager::takeKernel(int kernelID, QSet<int>& changed)
 {
-    int componentID = componentOfVolume(kernelID, volumeTag);
-    if (componentID > 0) {
-        return componentID;
+    const QSharedPointer<const KernelMesh> mesh = MeshManager::instance()->mesh(kernelID);
+    for (const FacePatch& patch : mesh->patches) {
+        int componentID = componentOfVolume(kernelID, patch.volumeTag);
+        if (componentID == 0) {
+            componentID = generateComponentID();
+            m_components[componentID].kernelID = kernelID;
+            m_components[componentID].volumeTag = patch.volumeTag;
+        }
+        Component& component = m_components[componentID];
+        component.faces.insert(patch.faceID, {patch.name, patch.isGroup, patch.triangleCount});
+        if (!changed.contains(componentID)) {
+            component.origin = MeshManager::instance()->getOrigin(kernelID);
+            component.box = boxOfVolume(*mesh, patch.volumeTag);
+            nameAfterGroup(componentID, mesh->report.groupNames().value(patch.volumeTag));
+            changed.insert(componentID);
+        }
     }
-    for (auto it = m_components.cbegin(); it != m_components.cend() && componentID == 0; ++it) {
-        const bool isWaiting = it->kernelID == 0 && it->filePath.isEmpty();
-        componentID = isWaiting && it->volumeTag == volumeTag ? it.key() : 0;
+}
+
+// Projects of earlier versions do not say where their components come from, or how their groups were called.
+int GeometryManager::waitingComponent(const QString& origin, int volumeTag, const QMap<int, QString>& groupNames) const
+{
+    const QString groupName = groupNames.value(volumeTag);
+    const QStringList allNames = groupNames.values();
+    int ofTag = 0;
+    for (auto it = m_components.cbegin(); it != m_components.cend(); ++it) {
+        const bool isOfOrigin = it->origin == origin || it->origin.isEmpty();
+        if (it->kernelID != 0 || !it->filePath.isEmpty() || !isOfOrigin) {
+            continue;
+        }
+        if (!groupName.isEmpty() && it->groupName == groupName) {
+            return it.key();
+        }
+        const bool isAwaited = !it->groupName.isEmpty() && allNames.contains(it->groupName);
+        if (ofTag == 0 && it->volumeTag == volumeTag && !isAwaited) {
+            ofTag = it.key();
+        }
     }
-    if (componentID == 0) {
-        componentID = generateComponentID();
-        m_components[componentID].name = freeName(name.isEmpty() ? tr("volume %1").arg(volumeTag) : name);
+    return ofTag;
+}
+
+// A name that a person gave stays.
+void GeometryManager::nameAfterGroup(int componentID, const QString& groupName)
+{
+    Component& component = m_components[componentID];
+    const bool isNew = component.name.isEmpty();
+    const bool isNamedAfterGroup = !component.groupName.isEmpty() && component.name == component.groupName;
+    if (isNew || (isNamedAfterGroup && groupName != component.groupName)) {
+        component.name = freeName(groupName.isEmpty() ? tr("volume %1").arg(component.volumeTag) : groupName);
     }
-    m_components[componentID].kernelID = kernelID;
-    m_components[componentID].volumeTag = volumeTag;
-    return componentID;
+    component.groupName = groupName;
 }
 
 QString GeometryManager::freeName(const QString& wanted)

@@ -3,14 +3,12 @@
 
 #include <workbench/material/DeleteQuestion.h>
 
+#include <workbench/dialog/Question.h>
 #include <workbench/geometry/GeometryManager.h>
 #include <workbench/material/MaterialLibraries.h>
 #include <workbench/material/MaterialName.h>
 
 #include <datamodel/MaterialData.h>
-
-#include <QLabel>
-#include <QMessageBox>
 
 namespace Workbench {
 
@@ -59,24 +57,15 @@ QStringList useTexts(BaseModule::MaterialLibType type, const QList<int>& ids)
 
 void DeleteQuestion::openFor(BaseModule::MaterialLibType type, const QList<int>& ids, QWidget* parent)
 {
-    const QStringList uses = useTexts(type, ids);
-    if (uses.isEmpty()) {
+    if (useTexts(type, ids).isEmpty()) {
         return;
     }
-    auto* const question = new QMessageBox(QMessageBox::Question, libraryTitle(type), tr("Delete these materials?"),
-                                           QMessageBox::Yes | QMessageBox::Cancel, parent);
-    question->setObjectName(QStringLiteral("deleteQuestion"));
-    question->setInformativeText(uses.join(QLatin1Char('\n')));
-    // Names are no markup.
-    question->findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"))->setTextFormat(Qt::PlainText);
-    question->setDefaultButton(QMessageBox::Cancel);
-    question->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(question, &QMessageBox::finished, [type, ids](int answer) {
-        if (answer == QMessageBox::Yes) {
-            MaterialLibraries::instance()->remove(type, ids);
-        }
-    });
-    question->open();
+    const auto texts = [type, ids] {
+        return Question::Texts{libraryTitle(type), tr("Delete these materials?"),
+                               useTexts(type, ids).join(QLatin1Char('\n'))};
+    };
+    const auto remove = [type, ids] { MaterialLibraries::instance()->remove(type, ids); };
+    (new Question(QStringLiteral("deleteQuestion"), texts, remove, parent))->open();
 }
 
 } // namespace Workbench

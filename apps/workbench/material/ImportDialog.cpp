@@ -10,6 +10,7 @@
 #include <datamodel/MaterialData.h>
 
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
@@ -48,16 +49,16 @@ void ImportDialog::openFor(BaseModule::MaterialLibType from, const QList<int>& i
 }
 
 ImportDialog::ImportDialog(BaseModule::MaterialLibType from, const QList<int>& ids, QWidget* parent)
-    : QDialog(parent), m_from(from), m_list(new QTreeWidget(this)), m_counts(new QLabel(this))
+    : QDialog(parent), m_from(from), m_list(new QTreeWidget(this)), m_counts(new QLabel(this)), m_copy(nullptr)
 {
     setObjectName(QStringLiteral("importDialog"));
     m_list->setObjectName(QStringLiteral("comparisons"));
     m_counts->setObjectName(QStringLiteral("counts"));
-    setWindowTitle(tr("Copy from: %1, to: %2").arg(libraryTitle(from), libraryTitle(otherLibrary(from))));
-    m_list->setHeaderLabels({tr("Material"), tr("State"), tr("Here"), tr("There")});
+    m_list->setColumnCount(4);
     compare(ids);
-    showCounts();
     layOut();
+    retranslate();
+    m_list->header()->resizeSections(QHeaderView::ResizeToContents);
 }
 
 void ImportDialog::compare(const QList<int>& ids)
@@ -78,7 +79,7 @@ void ImportDialog::compare(const QList<int>& ids)
 void ImportDialog::addComparison(const Comparison& comparison)
 {
     const QString name = QStringLiteral("%1  %2").arg(comparison.source->englishName, comparison.source->chineseName);
-    auto* const item = new QTreeWidgetItem(m_list, {name, stateTitle(comparison.state)});
+    auto* const item = new QTreeWidgetItem(m_list, {name});
     if (comparison.state == Comparison::New || comparison.state == Comparison::Changed) {
         // What is in the other library already is replaced only when the user says so.
         item->setCheckState(0, comparison.state == Comparison::New ? Qt::Checked : Qt::Unchecked);
@@ -110,16 +111,36 @@ void ImportDialog::showCounts()
 void ImportDialog::layOut()
 {
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->button(QDialogButtonBox::Ok)->setText(tr("Copy"));
+    m_copy = buttons->button(QDialogButtonBox::Ok);
     connect(buttons, &QDialogButtonBox::accepted, this, &ImportDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &ImportDialog::reject);
-    m_list->header()->resizeSections(QHeaderView::ResizeToContents);
     m_counts->setWordWrap(true);
     auto* const whole = new QVBoxLayout(this);
     whole->addWidget(m_list);
     whole->addWidget(m_counts);
     whole->addWidget(buttons);
     resize(fontMetrics().averageCharWidth() * 100, fontMetrics().height() * 30);
+}
+
+void ImportDialog::retranslate()
+{
+    setWindowTitle(tr("Copy from: %1, to: %2").arg(libraryTitle(m_from), libraryTitle(otherLibrary(m_from))));
+    m_list->setHeaderLabels({tr("Material"), tr("State"), tr("Here"), tr("There")});
+    m_list->setAccessibleName(tr("Comparison"));
+    for (int i = 0; i < m_comparisons.size(); ++i) {
+        m_list->topLevelItem(i)->setText(1, stateTitle(m_comparisons.at(i).state));
+    }
+    m_copy->setText(tr("Copy"));
+    showCounts();
+}
+
+// After the buttons, which write their own texts again.
+void ImportDialog::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        QMetaObject::invokeMethod(this, &ImportDialog::retranslate, Qt::QueuedConnection);
+    }
+    QDialog::changeEvent(event);
 }
 
 void ImportDialog::accept()

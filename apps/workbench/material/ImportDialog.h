@@ -9,6 +9,7 @@
 #include <QDialog>
 
 class QLabel;
+class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -26,6 +27,9 @@ public:
 
     void accept() override;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     ImportDialog(BaseModule::MaterialLibType from, const QList<int>& ids, QWidget* parent);
 
@@ -33,11 +37,13 @@ private:
     void addComparison(const Materials::Comparison& comparison);
     void showCounts();
     void layOut();
+    void retranslate();
 
     BaseModule::MaterialLibType m_from;
     QList<Materials::Comparison> m_comparisons;
     QTreeWidget* m_list;
     QLabel* m_counts;
+    QPushButton* m_copy;
 };
 
 } // namespace Workbench

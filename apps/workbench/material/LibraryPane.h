@@ -6,16 +6,19 @@
 #include <basemodule/MaterialLibType.h>
 
 #include <QList>
+#include <QSet>
 #include <QWidget>
 
 class QLabel;
 class QLineEdit;
+class QModelIndex;
 class QPushButton;
-class QSortFilterProxyModel;
+class QToolButton;
 class QTreeView;
 
 namespace Workbench {
 
+class MaterialFilter;
 class MaterialTable;
 
 /// One library in the dock: its materials with a search, and what can be done with them.
@@ -39,6 +42,7 @@ Q_SIGNALS:
 private:
     void createTable();
     void createButtons();
+    void nameButtons();
     void layOut();
     void search(const QString& text);
     void select(const QList<int>& ids);
@@ -48,17 +52,23 @@ private:
     void editMaterial();
     void deleteMaterials();
     void importMaterials();
+    /// Marks the selected ones, or takes the marks away when all of them have one.
+    void toggleFavourites();
+    void toggleFavourite(const QModelIndex& index);
+    void mark(const QSet<QString>& names, bool areFavourites);
 
     BaseModule::MaterialLibType m_type;
     MaterialTable* m_table;
-    QSortFilterProxyModel* m_found;
+    MaterialFilter* m_found;
     QTreeView* m_view;
     QLabel* m_title;
     QLineEdit* m_search;
+    QToolButton* m_onlyFavourites;
     QPushButton* m_create;
     QPushButton* m_edit;
     QPushButton* m_delete;
     QPushButton* m_import;
+    QPushButton* m_favourite;
 };
 
 } // namespace Workbench

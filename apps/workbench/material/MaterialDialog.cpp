@@ -4,14 +4,16 @@
 #include <workbench/material/MaterialDialog.h>
 
 #include <materials/MaterialMembers.h>
+#include <workbench/dialog/Refusal.h>
 #include <workbench/material/MaterialLibraries.h>
 #include <workbench/material/MaterialName.h>
 #include <workbench/material/NumberField.h>
 #include <workbench/material/PropertyEditor.h>
 
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QFormLayout>
-#include <QLabel>
+#include <QLineEdit>
 #include <QTabWidget>
 
 namespace Workbench {
@@ -29,21 +31,20 @@ void MaterialDialog::openFor(BaseModule::MaterialLibType type, int id, QWidget* 
 
 MaterialDialog::MaterialDialog(BaseModule::MaterialLibType type, const Materials::Material& material, QWidget* parent)
     : QDialog(parent), m_type(type), m_id(material.isNull() ? 0 : material->id), m_englishName(new QLineEdit(this)),
-      m_chineseName(new QLineEdit(this)), m_tabs(new QTabWidget(this)), m_refusal(new QLabel(this))
+      m_chineseName(new QLineEdit(this)), m_tabs(new QTabWidget(this)), m_refusal(new Refusal(this)),
+      m_labels(new QFormLayout)
 {
     setObjectName(QStringLiteral("materialDialog"));
     m_englishName->setObjectName(QStringLiteral("englishName"));
     m_chineseName->setObjectName(QStringLiteral("chineseName"));
     m_tabs->setObjectName(QStringLiteral("properties"));
-    m_refusal->setObjectName(QStringLiteral("refusal"));
-    setWindowTitle(m_id == 0 ? tr("New material - %1").arg(libraryTitle(type))
-                             : tr("Material %1 - %2").arg(m_id).arg(libraryTitle(type)));
     if (!material.isNull()) {
         m_englishName->setText(material->englishName);
         m_chineseName->setText(material->chineseName);
     }
     createEditors(material);
     layOut();
+    retranslate();
 }
 
 void MaterialDialog::createEditors(const Materials::Material& material)
@@ -53,7 +54,7 @@ void MaterialDialog::createEditors(const Materials::Material& material)
             material.isNull() ? PropertyEditor::Property() : (*material).*Materials::propertyMembers.at(i);
         m_editors.append(new PropertyEditor(property, this));
         m_editors.last()->setObjectName(QStringLiteral("property%1").arg(i + 1));
-        m_tabs->addTab(m_editors.last(), tr("Property %1").arg(i + 1));
+        m_tabs->addTab(m_editors.last(), QString());
         if (!property.isNull()) {
             m_tabs->setTabToolTip(i, property->label);
         }
@@ -62,20 +63,38 @@ void MaterialDialog::createEditors(const Materials::Material& material)
 
 void MaterialDialog::layOut()
 {
-    auto* const names = new QFormLayout;
-    names->addRow(tr("English name"), m_englishName);
-    names->addRow(tr("Chinese name"), m_chineseName);
-    m_refusal->setWordWrap(true);
-    m_refusal->setTextFormat(Qt::PlainText);
-    m_refusal->setStyleSheet(QStringLiteral("color: #c00000;"));
+    m_labels.addRow(m_englishName);
+    m_labels.addRow(m_chineseName);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &MaterialDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &MaterialDialog::reject);
     auto* const whole = new QVBoxLayout(this);
-    whole->addLayout(names);
+    whole->addLayout(m_labels.form());
     whole->addWidget(m_tabs);
     whole->addWidget(m_refusal);
     whole->addWidget(buttons);
+}
+
+void MaterialDialog::retranslate()
+{
+    setWindowTitle(m_id == 0 ? tr("New material - %1").arg(libraryTitle(m_type))
+                             : tr("Material %1 - %2").arg(m_id).arg(libraryTitle(m_type)));
+    m_labels.setTexts({tr("&English name"), tr("&Chinese name")});
+    m_tabs->setAccessibleName(tr("Properties"));
+    for (int i = 0; i < m_tabs->count(); ++i) {
+        m_tabs->setTabText(i, tr("Property %1").arg(i + 1));
+    }
+}
+
+void MaterialDialog::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+        if (!m_refusal->text().isEmpty()) {
+            check();
+        }
+    }
+    QDialog::changeEvent(event);
 }
 
 void MaterialDialog::accept()
@@ -88,27 +107,23 @@ void MaterialDialog::accept()
 
 bool MaterialDialog::check()
 {
+    m_refusal->clear();
     for (QLineEdit* const field : {m_englishName, m_chineseName}) {
         const QString reason = materialNameRefusal(m_type, field->text(), m_id);
         if (!reason.isEmpty()) {
-            refuse(reason, field);
+            m_refusal->tell(reason, field);
             return false;
         }
     }
     for (int i = 0; i < m_editors.size(); ++i) {
         if (NumberField* const field = m_editors.at(i)->refusedField()) {
             m_tabs->setCurrentIndex(i);
-            refuse(tr("Property %1, component %2: %3").arg(i + 1).arg(field->objectName(), field->refusal()), field);
+            m_refusal->tell(tr("Property %1, component %2: %3").arg(i + 1).arg(field->objectName(), field->refusal()),
+                            field);
             return false;
         }
     }
     return true;
-}
-
-void MaterialDialog::refuse(const QString& reason, QWidget* field)
-{
-    m_refusal->setText(reason);
-    field->setFocus();
 }
 
 void MaterialDialog::apply()

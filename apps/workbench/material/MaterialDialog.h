@@ -5,17 +5,18 @@
 
 #include <basemodule/MaterialLibType.h>
 #include <materials/Material.h>
+#include <workbench/dialog/FieldLabels.h>
 
 #include <QDialog>
 #include <QVector>
 
-class QLabel;
 class QLineEdit;
 class QTabWidget;
 
 namespace Workbench {
 
 class PropertyEditor;
+class Refusal;
 
 /// Creates a material of a library, or edits one: both names and the five property records. Accepting it makes the
 /// change; what the library must not take is refused with the reason, and the dialog stays.
@@ -30,15 +31,18 @@ public:
 
     void accept() override;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     /// `material` is null for a new one.
     MaterialDialog(BaseModule::MaterialLibType type, const Materials::Material& material, QWidget* parent);
 
     void createEditors(const Materials::Material& material);
     void layOut();
+    void retranslate();
     /// False when a name or a number is refused; then the reason is shown, and the field has the focus.
     bool check();
-    void refuse(const QString& reason, QWidget* field);
     void apply();
 
     BaseModule::MaterialLibType m_type;
@@ -47,7 +51,8 @@ private:
     QLineEdit* m_chineseName;
     QTabWidget* m_tabs;
     QVector<PropertyEditor*> m_editors;
-    QLabel* m_refusal;
+    Refusal* m_refusal;
+    FieldLabels m_labels;
 };
 
 } // namespace Workbench

@@ -11,7 +11,6 @@
 #include <datamanager/selection/SelectedDataManager.h>
 
 #include <basemodule/IBaseSignal.h>
-#include <datamodel/MaterialData.h>
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -42,10 +41,8 @@ QString volumeText(const QList<int>& volumes)
     QStringList texts;
     for (const int volume : volumes) {
         const int id = GeometryManager::instance()->getMaterialID(volume);
-        const Materials::Material material = MaterialLibraries::material(BaseModule::ProjectLib, id);
-        texts.append(QStringLiteral("%1 (%2)").arg(GeometryManager::instance()->getComponentName(volume),
-                                                   material.isNull() ? MaterialDock::tr("free space")
-                                                                     : materialTitle(*material)));
+        texts.append(
+            QStringLiteral("%1 (%2)").arg(GeometryManager::instance()->getComponentName(volume), fillingTitle(id)));
     }
     return texts.join(QStringLiteral(", "));
 }

@@ -3,6 +3,7 @@
 
 #include <workbench/material/MaterialLibraries.h>
 
+#include <workbench/material/MaterialFavourites.h>
 #include <workbench/material/SaveWatch.h>
 
 #include <datamanager/material/MaterialLibraryManager.h>
@@ -29,8 +30,20 @@ void updateInLibrary(BaseModule::MaterialLibType type, int id, const DataModel::
 {
     const auto update = type == BaseModule::ProjectLib ? &MaterialLibraryManager::updateProjectMat
                                                        : &MaterialLibraryManager::updateSoftwareMat;
+    const Materials::Material old = MaterialLibraries::material(type, id);
+    const QString oldName = old.isNull() ? content.englishName : old->englishName;
     (manager().*update)(id, content.chineseName, content.englishName, content.property1, content.property2,
                         content.property3, content.property4, content.property5);
+    MaterialFavourites::rename(type, oldName, content.englishName);
+}
+
+QSet<int> projectIDs()
+{
+    QSet<int> ids;
+    for (const Materials::Material& material : MaterialLibraries::materials(BaseModule::ProjectLib)) {
+        ids.insert(material->id);
+    }
+    return ids;
 }
 
 } // namespace
@@ -48,8 +61,9 @@ MaterialLibraries* MaterialLibraries::instance()
 
 MaterialLibraries::MaterialLibraries()
 {
-    // A deletion by somebody else. Those of our own are told when they are complete.
-    connect(IBaseSignal::getInstance(), &IBaseSignal::signal_delMatUpdateGeometryData, this, [this] {
+    // A deletion, by somebody else too. Those of our own are told when they are complete.
+    connect(IBaseSignal::getInstance(), &IBaseSignal::signal_delMatUpdateGeometryData, this, [this](int id) {
+        m_origins.forget(id);
         if (!m_isEditing) {
             tell(BaseModule::ProjectLib);
         }
@@ -101,15 +115,23 @@ void MaterialLibraries::create(Type type, const DataModel::MaterialData& content
 {
     const auto create = type == BaseModule::ProjectLib ? &MaterialLibraryManager::createProjectMat
                                                        : &MaterialLibraryManager::createSoftwareMat;
+    const QSet<int> before = projectIDs();
     save(type, [&] {
         (manager().*create)(content.chineseName, content.englishName, content.property1, content.property2,
                             content.property3, content.property4, content.property5);
+        noteOrigins(before, {});
     });
 }
 
 void MaterialLibraries::update(Type type, int id, const DataModel::MaterialData& content)
 {
-    save(type, [&] { updateInLibrary(type, id, content); });
+    save(type, [&] {
+        updateInLibrary(type, id, content);
+        if (type == BaseModule::ProjectLib) {
+            m_origins.markEdited(id);
+            m_origins.write();
+        }
+    });
 }
 
 void MaterialLibraries::remove(Type type, QList<int> ids)
@@ -121,32 +143,65 @@ void MaterialLibraries::remove(Type type, QList<int> ids)
         for (const int id : qAsConst(ids)) {
             (manager().*remove)(id);
         }
+        if (type == BaseModule::ProjectLib) {
+            m_origins.write();
+        }
     });
+}
+
+// What is new in the project is one of the sources, whose names are unique, or was made here.
+void MaterialLibraries::noteOrigins(const QSet<int>& before, const QList<Materials::Material>& sources)
+{
+    using Origin = MaterialOrigins::Origin;
+    const QSet<int> added = projectIDs() - before;
+    for (const int id : added) {
+        const QString name = material(BaseModule::ProjectLib, id)->englishName;
+        const auto source = std::find_if(sources.begin(), sources.end(),
+                                         [&name](const auto& other) { return other->englishName == name; });
+        m_origins.set(id, source == sources.end() ? Origin{Origin::Created, 0, {}, false}
+                                                  : Origin{Origin::Software, (*source)->id, name, false});
+    }
+    if (!added.isEmpty()) {
+        m_origins.write();
+    }
 }
 
 void MaterialLibraries::import(Type from, const QList<int>& newIDs, const QList<QPair<int, int>>& updates)
 {
+    const QSet<int> before = projectIDs();
     save(otherLibrary(from), [&] {
         if (!newIDs.isEmpty()) {
             manager().importMaterial(from, newIDs);
+            noteOrigins(before, materials(BaseModule::SoftwareLib));
         }
         for (const QPair<int, int>& ids : updates) {
             if (const Materials::Material source = material(from, ids.first)) {
                 updateInLibrary(otherLibrary(from), ids.second, *source);
+                noteReplaced(from, ids.second, *source);
             }
         }
     });
 }
 
+void MaterialLibraries::noteReplaced(Type from, int id, const DataModel::MaterialData& source)
+{
+    if (from == BaseModule::SoftwareLib) {
+        m_origins.set(id, {MaterialOrigins::Origin::Software, source.id, source.englishName, false});
+        m_origins.write();
+    }
+}
+
 void MaterialLibraries::loadProject()
 {
     manager().initProjectMaterial();
+    m_origins.read();
     Q_EMIT changed(BaseModule::ProjectLib);
 }
 
 void MaterialLibraries::clearProject()
 {
     manager().clearProjectMaterial();
+    m_origins.clear();
     Q_EMIT changed(BaseModule::ProjectLib);
 }
 

@@ -5,10 +5,12 @@
 
 #include <basemodule/MaterialLibType.h>
 #include <materials/Material.h>
+#include <workbench/material/MaterialOrigins.h>
 
 #include <QList>
 #include <QObject>
 #include <QPair>
+#include <QSet>
 
 #include <functional>
 
@@ -31,6 +33,9 @@ public:
     static QList<Materials::Material> materials(Type type);
     /// The material that is not deleted under this identifier; null when there is none.
     static Materials::Material material(Type type, int id);
+
+    /// Where a material of the project came from.
+    MaterialOrigins::Origin origin(int projectID) const { return m_origins.of(projectID); }
 
     /// Add a material, or give one the names and properties of `content`, whose property records become shared.
     void create(Type type, const DataModel::MaterialData& content);
@@ -55,7 +60,10 @@ private:
 
     void save(Type type, const std::function<void()>& edit);
     void tell(Type type);
+    void noteReplaced(Type from, int id, const DataModel::MaterialData& source);
+    void noteOrigins(const QSet<int>& before, const QList<Materials::Material>& sources);
 
+    MaterialOrigins m_origins;
     bool m_isEditing = false;
 };
 

@@ -40,6 +40,15 @@ QString materialTitle(const DataModel::MaterialData& material)
     return isChinese ? material.chineseName : material.englishName;
 }
 
+QString fillingTitle(int projectID)
+{
+    if (projectID == 0) {
+        return Texts::tr("free space");
+    }
+    const Materials::Material material = MaterialLibraries::material(BaseModule::ProjectLib, projectID);
+    return material.isNull() ? Texts::tr("material %1, which is missing").arg(projectID) : materialTitle(*material);
+}
+
 QString materialNameRefusal(BaseModule::MaterialLibType type, const QString& name, int id)
 {
     if (name.trimmed().isEmpty()) {

@@ -16,6 +16,10 @@ namespace Workbench {
 /// The material's name in the interface language.
 QString materialTitle(const DataModel::MaterialData& material);
 
+/// What fills a volume that refers to this material of the project: its name, "free space" for 0, and what is missing
+/// where the library has no such material.
+QString fillingTitle(int projectID);
+
 /// Why a material of this library must not get the name, for the user; empty when it may. `id` is the material to be
 /// renamed, 0 for a new one.
 QString materialNameRefusal(BaseModule::MaterialLibType type, const QString& name, int id);

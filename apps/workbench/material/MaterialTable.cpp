@@ -4,6 +4,7 @@
 #include <workbench/material/MaterialTable.h>
 
 #include <materials/MaterialMembers.h>
+#include <workbench/material/MaterialFavourites.h>
 #include <workbench/material/MaterialLibraries.h>
 
 #include <datamodel/MaterialData.h>
@@ -23,6 +24,21 @@ QString propertyLabels(const DataModel::MaterialData& material)
     return labels.join(QStringLiteral(", "));
 }
 
+QString originText(int id)
+{
+    using Origin = MaterialOrigins::Origin;
+    const Origin origin = MaterialLibraries::instance()->origin(id);
+    if (origin.source == Origin::Unknown) {
+        return {};
+    }
+    if (origin.source == Origin::Created) {
+        return MaterialTable::tr("this project");
+    }
+    return origin.isEdited
+               ? MaterialTable::tr("software library, %1 (%2), edited").arg(origin.sourceName).arg(origin.sourceID)
+               : MaterialTable::tr("software library, %1 (%2)").arg(origin.sourceName).arg(origin.sourceID);
+}
+
 } // namespace
 
 MaterialTable::MaterialTable(BaseModule::MaterialLibType type, QObject* parent)
@@ -35,6 +51,7 @@ void MaterialTable::read()
 {
     beginResetModel();
     m_materials = MaterialLibraries::materials(m_type).toVector();
+    m_favourites = MaterialFavourites::names(m_type);
     endResetModel();
 }
 
@@ -53,10 +70,34 @@ QVariant MaterialTable::data(const QModelIndex& index, int role) const
     if (!index.isValid()) {
         return {};
     }
-    if (role == IdentifierRole) {
+    switch (role) {
+    case IdentifierRole:
         return m_materials.at(index.row())->id;
+    case EnglishNameRole:
+        return m_materials.at(index.row())->englishName;
+    case FavouriteRole:
+        return isFavourite(index.row());
+    case Qt::DisplayRole:
+        return text(index.row(), index.column());
+    case Qt::ToolTipRole:
+    case Qt::AccessibleTextRole:
+        return hint(index.row(), index.column());
+    default:
+        return {};
     }
-    return role == Qt::DisplayRole || role == Qt::ToolTipRole ? text(index.row(), index.column()) : QVariant();
+}
+
+bool MaterialTable::isFavourite(int row) const
+{
+    return m_favourites.contains(m_materials.at(row)->englishName);
+}
+
+QVariant MaterialTable::hint(int row, int column) const
+{
+    if (column != FavouriteColumn) {
+        return text(row, column);
+    }
+    return isFavourite(row) ? tr("a favourite") : tr("no favourite");
 }
 
 QVariant MaterialTable::text(int row, int column) const
@@ -69,6 +110,10 @@ QVariant MaterialTable::text(int row, int column) const
         return material.englishName;
     case ChineseNameColumn:
         return material.chineseName;
+    case OriginColumn:
+        return m_type == BaseModule::ProjectLib ? originText(material.id) : QVariant();
+    case FavouriteColumn:
+        return QString(isFavourite(row) ? QChar(0x2605) : QChar(0x2606));
     default:
         return propertyLabels(material);
     }
@@ -86,6 +131,10 @@ QVariant MaterialTable::headerData(int section, Qt::Orientation orientation, int
         return tr("English name");
     case ChineseNameColumn:
         return tr("Chinese name");
+    case OriginColumn:
+        return tr("Origin");
+    case FavouriteColumn:
+        return QString(QChar(0x2605));
     default:
         return tr("Properties");
     }

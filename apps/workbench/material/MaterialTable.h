@@ -7,6 +7,7 @@
 #include <materials/Material.h>
 
 #include <QAbstractTableModel>
+#include <QSet>
 #include <QVector>
 
 namespace Workbench {
@@ -23,10 +24,14 @@ public:
         EnglishNameColumn,
         ChineseNameColumn,
         PropertiesColumn, ///< the labels of the properties
+        OriginColumn,     ///< where a material of the project came from
+        FavouriteColumn,  ///< a star
         ColumnCount
     };
-    /// The identifier, for every column.
+    /// The identifier, the English name and whether it is a favourite, for every column.
     static constexpr int IdentifierRole = Qt::UserRole;
+    static constexpr int EnglishNameRole = Qt::UserRole + 1;
+    static constexpr int FavouriteRole = Qt::UserRole + 2;
 
     explicit MaterialTable(BaseModule::MaterialLibType type, QObject* parent);
 
@@ -40,9 +45,12 @@ public:
 
 private:
     QVariant text(int row, int column) const;
+    QVariant hint(int row, int column) const;
+    bool isFavourite(int row) const;
 
     BaseModule::MaterialLibType m_type;
     QVector<Materials::Material> m_materials;
+    QSet<QString> m_favourites;
 };
 
 } // namespace Workbench

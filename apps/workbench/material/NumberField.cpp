@@ -6,6 +6,8 @@
 #include <materials/NumberText.h>
 #include <workbench/material/NumberReading.h>
 
+#include <QEvent>
+
 namespace Workbench {
 
 NumberField::NumberField(QWidget* parent) : QLineEdit(parent)
@@ -53,6 +55,14 @@ QString NumberField::refusal() const
         return tr("'%1' would become 0: the smallest number above it is about 5e-324.").arg(text());
     }
     return {};
+}
+
+void NumberField::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange && !toolTip().isEmpty()) {
+        setToolTip(refusal());
+    }
+    QLineEdit::changeEvent(event);
 }
 
 void NumberField::showRefusal()

@@ -27,6 +27,9 @@ public:
     /// Whether the text is another one than `setValue` showed.
     bool isEdited() const;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void showRefusal();
 

@@ -10,6 +10,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -25,9 +26,9 @@ constexpr int componentCount = 9;
 }
 
 PropertyEditor::PropertyEditor(const Property& property, QWidget* parent)
-    : QWidget(parent), m_given(property), m_group(new QGroupBox(tr("The material has this property"), this)),
-      m_quantity(new QComboBox(m_group)), m_kind(new QSpinBox(m_group)), m_label(new QLineEdit(m_group)),
-      m_unit(new QLabel(m_group)), m_remark(new QLineEdit(m_group)), m_flag(new QCheckBox(m_group))
+    : QWidget(parent), m_given(property), m_group(new QGroupBox(this)), m_quantity(new QComboBox(m_group)),
+      m_kind(new QSpinBox(m_group)), m_label(new QLineEdit(m_group)), m_unit(new QLabel(m_group)),
+      m_remark(new QLineEdit(m_group)), m_flag(new QCheckBox(m_group)), m_labels(new QFormLayout(m_group))
 {
     for (int i = 0; i < componentCount; ++i) {
         m_components.append(new NumberField(m_group));
@@ -40,7 +41,7 @@ PropertyEditor::PropertyEditor(const Property& property, QWidget* parent)
     if (!property.isNull()) {
         show(*property);
     }
-    showQuantityAndUnit();
+    retranslate();
     connect(m_quantity, QOverload<int>::of(&QComboBox::activated), this, &PropertyEditor::chooseQuantity);
     connect(m_kind, QOverload<int>::of(&QSpinBox::valueChanged), this, &PropertyEditor::showQuantityAndUnit);
     connect(m_remark, &QLineEdit::textChanged, this, &PropertyEditor::showQuantityAndUnit);
@@ -64,9 +65,9 @@ void PropertyEditor::nameFields()
 
 void PropertyEditor::listQuantities()
 {
-    m_quantity->addItem(tr("other"), 0);
+    m_quantity->addItem(QString(), 0);
     for (const PropertyKind& kind : propertyKinds()) {
-        m_quantity->addItem(propertyKindTitle(kind.number), kind.number);
+        m_quantity->addItem(QString(), kind.number);
     }
     m_kind->setLocale(QLocale::c());
     m_kind->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
@@ -74,18 +75,46 @@ void PropertyEditor::listQuantities()
 
 void PropertyEditor::layOut()
 {
-    auto* const form = new QFormLayout(m_group);
-    form->addRow(tr("Quantity"), m_quantity);
-    form->addRow(tr("Kind"), m_kind);
-    form->addRow(tr("Label"), m_label);
-    form->addRow(tr("Components"), layOutComponents());
-    form->addRow(tr("Unit"), m_unit);
-    form->addRow(tr("Remark"), m_remark);
-    m_remark->setPlaceholderText(tr("unit X; source of the values; conditions"));
-    m_flag->setText(tr("set; in the default library: differs between directions"));
-    form->addRow(tr("Flag"), m_flag);
+    for (QWidget* const field :
+         {static_cast<QWidget*>(m_quantity), static_cast<QWidget*>(m_kind), static_cast<QWidget*>(m_label)}) {
+        m_labels.addRow(field);
+    }
+    m_labels.addRow(layOutComponents(), m_components.first());
+    m_labels.addRow(m_unit);
+    m_labels.addRow(m_remark);
+    m_labels.addRow(m_flag);
+    for (int i = 0; i < componentCount; ++i) {
+        setTabOrder(i == 0 ? m_label : static_cast<QWidget*>(m_components.at(i - 1)), m_components.at(i));
+    }
+    setTabOrder(m_components.last(), m_remark);
+    setTabOrder(m_remark, m_flag);
     auto* const whole = new QVBoxLayout(this);
     whole->addWidget(m_group);
+}
+
+void PropertyEditor::retranslate()
+{
+    m_group->setTitle(tr("The material &has this property"));
+    m_labels.setTexts(
+        {tr("&Quantity"), tr("&Kind"), tr("&Label"), tr("Co&mponents"), tr("Unit"), tr("&Remark"), tr("&Flag")});
+    m_quantity->setItemText(0, tr("other"));
+    for (int i = 1; i < m_quantity->count(); ++i) {
+        m_quantity->setItemText(i, propertyKindTitle(m_quantity->itemData(i).toInt()));
+    }
+    for (NumberField* const field : qAsConst(m_components)) {
+        field->setAccessibleName(tr("Component %1").arg(field->objectName()));
+    }
+    m_remark->setPlaceholderText(tr("unit X; source of the values; conditions"));
+    m_flag->setText(tr("set; in the default library: differs between directions"));
+    showQuantityAndUnit();
+}
+
+void PropertyEditor::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+    QWidget::changeEvent(event);
 }
 
 QGridLayout* PropertyEditor::layOutComponents()
@@ -173,7 +202,7 @@ PropertyEditor::Property PropertyEditor::property() const
     if (isUnchanged()) {
         return m_given;
     }
-    const auto record = Property::create();
+    auto record = Property::create();
     record->kind = m_kind->value();
     record->label = m_label->text();
     record->components = components();

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <workbench/dialog/FieldLabels.h>
+
 #include <QSharedPointer>
 #include <QVector>
 #include <QWidget>
@@ -39,10 +41,14 @@ public:
     /// The record as edited: the one given when nothing was changed, otherwise a new one; null when there is none.
     Property property() const;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void nameFields();
     void listQuantities();
     void layOut();
+    void retranslate();
     QGridLayout* layOutComponents();
     void show(const DataModel::MaterialPropertyData& property);
     void chooseQuantity(int index);
@@ -62,6 +68,7 @@ private:
     QLabel* m_unit;
     QLineEdit* m_remark;
     QCheckBox* m_flag;
+    FieldLabels m_labels;
 };
 
 } // namespace Workbench

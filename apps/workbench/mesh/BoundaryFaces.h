@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <functional>
 #include <vector>
 
@@ -31,8 +32,21 @@ struct Tetrahedra
     std::function<int(int element)> volume;
 };
 
-/// The faces that no other tetrahedron of the same volume shares, in the order of their smallest nodes: the outer skin,
-/// and where volumes meet one face for each of them. Takes time and memory in proportion to the elements.
-std::vector<BoundaryFace> boundaryFaces(const Tetrahedra& mesh);
+/// The corners of one of the four sides of a tetrahedron, counter-clockwise as seen from outside.
+std::array<int, 3> sideOfTetrahedron(const std::array<int, 4>& corners, std::size_t side);
+
+/// How tetrahedra lie to one another.
+struct Neighbourhood
+{
+    /// The faces that no other tetrahedron of the same volume shares, in the order of their smallest nodes: the outer
+    /// skin, and where volumes meet one face for each of them.
+    std::vector<BoundaryFace> boundary;
+    /// For each tetrahedron and each of its sides the tetrahedron behind it, of whichever volume; -1 where there is
+    /// none. One that lies on the same side, as an inverted or a doubled one does, is not behind.
+    std::vector<std::array<int, 4>> neighbours;
+};
+
+/// Takes time and memory in proportion to the elements, of which there may be 2^29.
+Neighbourhood neighbourhood(const Tetrahedra& mesh);
 
 } // namespace Workbench

@@ -50,7 +50,9 @@ void makeSkin(KernelMesh& mesh, const SurfaceGroups& groups)
     tetrahedra.elementCount = report.elementCount();
     tetrahedra.corners = [&report](int element) -> const std::array<int, 4>& { return report.corners(element); };
     tetrahedra.volume = volume;
-    mesh.faces = boundaryFaces(tetrahedra);
+    Neighbourhood found = neighbourhood(tetrahedra);
+    mesh.faces = std::move(found.boundary);
+    mesh.neighbours = std::move(found.neighbours);
     PatchInput input;
     input.groups = &groups;
     input.volume = volume;

@@ -26,6 +26,8 @@ struct KernelMesh
     /// Elements are known by these numbers, nodes by their place, counted from 1.
     ElementNumbers elementNumbers;
     std::vector<BoundaryFace> faces;
+    /// For each element and each of its sides the element behind it, by place; -1 where there is none.
+    std::vector<std::array<int, 4>> neighbours;
     std::vector<FacePatch> patches;
     /// How many elements have that physical tag.
     std::map<int, int> elementCounts;

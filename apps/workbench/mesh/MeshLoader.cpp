@@ -6,7 +6,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QThread>
+
+#include <memory>
 
 namespace Workbench {
 namespace {
@@ -42,45 +43,18 @@ KernelReading readOne(const MeshLoader::Job& job, const KernelProgress& progress
 
 } // namespace
 
-MeshLoader::MeshLoader(QObject* parent) : QObject(parent) {}
-
-MeshLoader::~MeshLoader()
+MeshLoader::MeshLoader(QObject* parent) : QObject(parent)
 {
-    stopThread();
+    connect(&m_task, &BackgroundTask::signal_progress, this, &MeshLoader::signal_progress);
 }
 
 void MeshLoader::start(const QList<Job>& jobs, const Finish& finish)
 {
-    stopThread();
-    auto isCancelled = std::make_shared<std::atomic<bool>>(false);
-    m_isCancelled = isCancelled;
-    m_thread = QThread::create([this, jobs, finish, isCancelled] {
-        int told = -1;
-        const QVector<KernelReading> readings = read(jobs, [this, &told, isCancelled](double done) {
-            const int percent = static_cast<int>(100 * done);
-            if (percent > told) {
-                told = percent;
-                QMetaObject::invokeMethod(
-                    this,
-                    [this, percent, isCancelled] {
-                        if (!*isCancelled) {
-                            Q_EMIT signal_progress(percent);
-                        }
-                    },
-                    Qt::QueuedConnection);
-            }
-            return !*isCancelled;
-        });
-        QMetaObject::invokeMethod(
-            this,
-            [this, finish, readings, isCancelled] {
-                if (m_isCancelled == isCancelled) {
-                    end(finish, readings);
-                }
-            },
-            Qt::QueuedConnection);
-    });
-    m_thread->start(QThread::LowPriority);
+    const auto readings = std::make_shared<QVector<KernelReading>>();
+    m_task.start([jobs, readings](const KernelProgress& progress) { *readings = read(jobs, progress); },
+                 [readings, finish](bool isCancelled) {
+                     finish(isCancelled ? QVector<KernelReading>{{{}, true, {}}} : *readings);
+                 });
 }
 
 QVector<KernelReading> MeshLoader::read(const QList<Job>& jobs, const KernelProgress& progress)
@@ -94,32 +68,6 @@ QVector<KernelReading> MeshLoader::read(const QList<Job>& jobs, const KernelProg
         }
     }
     return readings;
-}
-
-void MeshLoader::cancel()
-{
-    if (m_isCancelled) {
-        *m_isCancelled = true;
-    }
-}
-
-void MeshLoader::end(const Finish& finish, const QVector<KernelReading>& readings)
-{
-    const bool isCancelled = *m_isCancelled;
-    stopThread();
-    // What was cancelled when all was read already counts as cancelled, too.
-    finish(isCancelled ? QVector<KernelReading>{{{}, true, {}}} : readings);
-}
-
-void MeshLoader::stopThread()
-{
-    if (m_thread != nullptr) {
-        cancel();
-        m_thread->wait();
-        delete m_thread;
-        m_thread = nullptr;
-        m_isCancelled.reset();
-    }
 }
 
 } // namespace Workbench

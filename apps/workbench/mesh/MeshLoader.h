@@ -4,17 +4,14 @@
 #pragma once
 
 #include <workbench/mesh/KernelMesh.h>
+#include <workbench/task/BackgroundTask.h>
 
 #include <QList>
 #include <QObject>
 #include <QString>
 #include <QVector>
 
-#include <atomic>
 #include <functional>
-#include <memory>
-
-class QThread;
 
 namespace Workbench {
 
@@ -37,15 +34,16 @@ public:
     using Finish = std::function<void(const QVector<KernelReading>& readings)>;
 
     explicit MeshLoader(QObject* parent = nullptr);
-    ~MeshLoader() override;
 
     /// Gives up what is under way, without telling, and begins.
     void start(const QList<Job>& jobs, const Finish& finish);
     /// Gives up what is under way; it is told as cancelled.
-    void cancel();
+    void cancel() { m_task.cancel(); }
     /// Gives up what is under way, without telling.
-    void abandon() { stopThread(); }
-    bool isActive() const { return m_thread != nullptr; }
+    void abandon() { m_task.abandon(); }
+    /// Returns when what is under way is done and told.
+    void wait() { m_task.wait(); }
+    bool isActive() const { return m_task.isActive(); }
 
     /// Does the same work in the calling thread.
     static QVector<KernelReading> read(const QList<Job>& jobs, const KernelProgress& progress);
@@ -54,11 +52,7 @@ Q_SIGNALS:
     void signal_progress(int percent);
 
 private:
-    void end(const Finish& finish, const QVector<KernelReading>& readings);
-    void stopThread();
-
-    QThread* m_thread = nullptr;
-    std::shared_ptr<std::atomic<bool>> m_isCancelled;
+    BackgroundTask m_task;
 };
 
 } // namespace Workbench

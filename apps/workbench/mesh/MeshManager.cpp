@@ -106,6 +106,11 @@ QString MeshManager::getKernelName(int kernelID)
     return m_kernels.value(kernelID).name;
 }
 
+QString MeshManager::getOrigin(int kernelID) const
+{
+    return m_kernels.value(kernelID).origin;
+}
+
 bool MeshManager::isNameTaken(const QString& name, int kernelID) const
 {
     const auto hasName = [&](int other) { return other != kernelID && m_kernels[other].name == name; };

@@ -8,6 +8,7 @@
 
 #include <datamanager/frame/IdaIMeshManager.h>
 
+#include <QJsonArray>
 #include <QSet>
 #include <QSharedPointer>
 #include <QVector>
@@ -17,6 +18,16 @@ class QJsonObject;
 namespace Workbench {
 
 class MeshLoader;
+
+/// Where a mesh comes from, and what it is called.
+struct MeshSource
+{
+    /// The kernel's name; empty for the one of the file.
+    QString name;
+    /// Tells whether two meshes are of the same thing: the path of the geometry, or of the mesh file itself, for which
+    /// it is empty.
+    QString origin;
+};
 
 /// The meshes of the project.
 ///
@@ -78,16 +89,25 @@ public:
     /// The physical tag of a group of the file; 0 for others.
     int getGroupPhysicalTag(int kernelID, int groupID) const;
     int getGroupSize(int kernelID, int groupID) const;
+    /// Where the kernel's mesh comes from, see MeshSource; empty when that is not known.
+    QString getOrigin(int kernelID) const;
     /// Whether an element, by its place, is to be seen: its kernel and no group of it is hidden.
     std::vector<char> shownElements(int kernelID) const;
 
     /// Reads a mesh in the background, which then takes the place of all others. A copy goes to the project's working
     /// directory, and one to where the predictor reads. Ends with signal_loadFinished; a reading that is under way is
     /// cancelled first.
-    void openMesh(const QString& filePath, const QString& name = QString());
-    /// As load(), in the background.
+    void openMesh(const QString& filePath, const MeshSource& source = {});
+    /// As load(), in the background. Kernels that could not be read, or whose reading was given up, stay in the
+    /// description that save() writes until another mesh is opened; their files stay, too.
     void restore(const QString& filePath);
+    /// The names of those kernels.
+    QStringList getUnreadNames() const;
+    /// Tries to read them again.
+    void readUnread();
     bool isLoading() const;
+    /// Returns when what is being read is there and told.
+    void waitForLoad();
     /// Whether the signals just now tell of what a file described, not of a change.
     bool isRestoring() const { return m_isRestoring; }
     /// Gives the reading up; what was there before stays.
@@ -120,6 +140,7 @@ private:
         QString name;
         /// In the project's working directory.
         QString fileName;
+        QString origin;
         bool isShown = true;
         QSharedPointer<const KernelMesh> mesh;
         QMap<int, Group> groups;
@@ -135,17 +156,23 @@ private:
     const Group* group(int kernelID, int groupID) const;
     void checkHighLight(bool& isAllowed, int selectModel, int firstID, int secondID) const;
 
+    void insertKernels(const QMap<int, Kernel>& kernels);
     int insertKernel(int kernelID, const Kernel& kernel);
     void finishOpening(const QString& filePath, const Kernel& kernel, const QVector<KernelReading>& readings);
     bool isUsable(const QVector<KernelReading>& readings, const QString& filePath);
     static void makeFileGroups(Kernel& kernel);
 
+    void readDescribed(const QString& filePath, const QJsonObject& description);
+    void keepUnread(const QJsonObject& description);
+    void forgetUnread();
     QJsonObject kernelToJson(int kernelID) const;
     static Kernel kernelFromJson(const QJsonObject& object, const QSharedPointer<const KernelMesh>& mesh);
     void takeDescription(const QJsonObject& description, const QVector<KernelReading>& readings);
 
     QMap<int, Kernel> m_kernels;
     NamedSets m_sets;
+    /// What a file says of kernels that are not there.
+    QJsonArray m_unread;
     MeshLoader* m_loader;
     bool m_isRestoring = false;
 };

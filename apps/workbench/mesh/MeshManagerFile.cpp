@@ -4,10 +4,11 @@
 #include <workbench/mesh/MeshManager.h>
 
 #include <workbench/mesh/MeshLoader.h>
+#include <workbench/mesh/MesherProcess.h>
 
 #include <basemodule/GlobalHelper.h>
 
-#include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -35,6 +36,10 @@ QString keyName()
 QString keyFile()
 {
     return QStringLiteral("file");
+}
+QString keyOrigin()
+{
+    return QStringLiteral("origin");
 }
 QString keyShown()
 {
@@ -103,11 +108,8 @@ QJsonObject MeshManager::kernelToJson(int kernelID) const
                                   {keyShown(), it->isShown},
                                   {keyElements(), elements}});
     }
-    return {{keyID(), kernelID},
-            {keyName(), kernel.name},
-            {keyFile(), kernel.fileName},
-            {keyShown(), kernel.isShown},
-            {keyGroups(), groups}};
+    return {{keyID(), kernelID},          {keyName(), kernel.name},     {keyFile(), kernel.fileName},
+            {keyOrigin(), kernel.origin}, {keyShown(), kernel.isShown}, {keyGroups(), groups}};
 }
 
 MeshManager::Kernel MeshManager::kernelFromJson(const QJsonObject& object, const QSharedPointer<const KernelMesh>& mesh)
@@ -115,6 +117,7 @@ MeshManager::Kernel MeshManager::kernelFromJson(const QJsonObject& object, const
     Kernel kernel;
     kernel.name = object.value(keyName()).toString();
     kernel.fileName = object.value(keyFile()).toString();
+    kernel.origin = object.value(keyOrigin()).toString();
     kernel.isShown = object.value(keyShown()).toBool(true);
     kernel.mesh = mesh;
     for (const QJsonValue& value : object.value(keyGroups()).toArray()) {
@@ -140,7 +143,7 @@ MeshManager::Kernel MeshManager::kernelFromJson(const QJsonObject& object, const
 
 bool MeshManager::save(const QString& filePath)
 {
-    QJsonArray kernels;
+    QJsonArray kernels = m_unread;
     for (int kernelID : m_kernels.keys()) {
         kernels.append(kernelToJson(kernelID));
     }
@@ -163,9 +166,12 @@ bool MeshManager::load(const QString& filePath)
 
 void MeshManager::restore(const QString& filePath)
 {
-    const QJsonObject description = readDescription(filePath);
-    const QString predictorPath = QCoreApplication::applicationDirPath() + QStringLiteral("/../temp/mesh.msh");
-    const QList<MeshLoader::Job> jobs = jobsOf(description, QFileInfo(filePath).path(), predictorPath);
+    readDescribed(filePath, readDescription(filePath));
+}
+
+void MeshManager::readDescribed(const QString& filePath, const QJsonObject& description)
+{
+    const QList<MeshLoader::Job> jobs = jobsOf(description, QFileInfo(filePath).path(), MesherProcess::outputPath());
     Q_EMIT signal_loadStarted(filePath);
     if (jobs.isEmpty()) {
         takeDescription(description, {});
@@ -175,9 +181,51 @@ void MeshManager::restore(const QString& filePath)
     m_loader->start(jobs, [this, description, filePath](const QVector<KernelReading>& readings) {
         if (isUsable(readings, filePath)) {
             takeDescription(description, readings);
+        } else {
+            keepUnread(description);
         }
         Q_EMIT signal_loadFinished(m_kernels.isEmpty() ? 0 : m_kernels.lastKey());
     });
+}
+
+// Their numbers stay taken, so that another mesh does not get the name of one of their files.
+void MeshManager::keepUnread(const QJsonObject& description)
+{
+    const QScopedValueRollback<bool> restoring(m_isRestoring, true);
+    takeDescription(description, {});
+    m_unread = description.value(keyKernels()).toArray();
+    int largestID = 0;
+    for (const QJsonValue& kernel : qAsConst(m_unread)) {
+        largestID = std::max(largestID, kernel[keyID()].toInt());
+    }
+    setKernelMaxID(largestID);
+    Q_EMIT signal_visibilityChanged();
+}
+
+void MeshManager::forgetUnread()
+{
+    for (const QJsonValue& kernel : qAsConst(m_unread)) {
+        QFile::remove(GlobalHelper::getProjectTempIODir() + QLatin1Char('/') + kernel[keyFile()].toString());
+    }
+    m_unread = {};
+}
+
+QStringList MeshManager::getUnreadNames() const
+{
+    QStringList names;
+    for (const QJsonValue& kernel : m_unread) {
+        names.append(kernel[keyName()].toString());
+    }
+    return names;
+}
+
+void MeshManager::readUnread()
+{
+    if (!m_unread.isEmpty() && !isLoading()) {
+        const QString directory = GlobalHelper::getProjectTempIODir();
+        readDescribed(directory + QStringLiteral("/mesh.json"),
+                      {{keyKernels(), m_unread}, {keySets(), m_sets.toJson()}});
+    }
 }
 
 void MeshManager::takeDescription(const QJsonObject& description, const QVector<KernelReading>& readings)
@@ -190,6 +238,7 @@ void MeshManager::takeDescription(const QJsonObject& description, const QVector<
     }
     // The files stay where they are: they are those of the description, too.
     const QList<int> old = m_kernels.keys();
+    m_unread = {};
     m_kernels.clear();
     if (!old.isEmpty()) {
         Q_EMIT signal_kernalDataListDeleted(old);
@@ -200,9 +249,7 @@ void MeshManager::takeDescription(const QJsonObject& description, const QVector<
         generateSetID();
     }
     setKernelMaxID(kernels.isEmpty() ? 0 : kernels.lastKey());
-    for (auto it = kernels.cbegin(); it != kernels.cend(); ++it) {
-        insertKernel(it.key(), *it);
-    }
+    insertKernels(kernels);
 }
 
 } // namespace Workbench

@@ -4,13 +4,13 @@
 #include <workbench/mesh/MeshManager.h>
 
 #include <workbench/mesh/MeshLoader.h>
+#include <workbench/mesh/MesherProcess.h>
 
 #include <basemodule/GlobalHelper.h>
 #include <basemodule/IBaseSignal.h>
 #include <basemodule/SelectModel.h>
 #include <datamanager/selection/SelectedDataManager.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -32,24 +32,29 @@ QString workingPath(const QString& fileName)
     return GlobalHelper::getProjectTempIODir() + QLatin1Char('/') + fileName;
 }
 
-QString predictorPath()
-{
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/../temp/mesh.msh");
-}
-
 } // namespace
 
-int MeshManager::insertKernel(int kernelID, const Kernel& kernel)
+// All at once: who listens finds all of them.
+void MeshManager::insertKernels(const QMap<int, Kernel>& kernels)
 {
-    m_kernels.insert(kernelID, kernel);
-    Q_EMIT signal_kernalDataListChanged({kernelID});
     QMultiMap<int, int> groups;
-    for (int groupID : kernel.groups.keys()) {
-        groups.insert(kernelID, groupID);
+    for (auto it = kernels.cbegin(); it != kernels.cend(); ++it) {
+        m_kernels.insert(it.key(), *it);
+        for (int groupID : it->groups.keys()) {
+            groups.insert(it.key(), groupID);
+        }
+    }
+    if (!kernels.isEmpty()) {
+        Q_EMIT signal_kernalDataListChanged(kernels.keys());
     }
     if (!groups.isEmpty()) {
         Q_EMIT signal_groupDataListChanged(groups);
     }
+}
+
+int MeshManager::insertKernel(int kernelID, const Kernel& kernel)
+{
+    insertKernels({{kernelID, kernel}});
     return kernelID;
 }
 
@@ -61,6 +66,7 @@ int MeshManager::addKernel(const QString& name, const QString& filePath)
     Kernel kernel;
     kernel.name = name;
     kernel.fileName = fileOfKernel(getKernelMaxID() + 1);
+    kernel.origin = QFileInfo(filePath).absoluteFilePath();
     const auto goOn = [](double) { return true; };
     kernel.mesh = MeshLoader::read({{filePath, workingPath(kernel.fileName), {}}}, goOn).constFirst().mesh;
     if (!kernel.mesh) {
@@ -90,14 +96,17 @@ int MeshManager::removeKernels(const QList<int>& kernelIDList)
     return removed.size();
 }
 
-void MeshManager::openMesh(const QString& filePath, const QString& name)
+void MeshManager::openMesh(const QString& filePath, const MeshSource& source)
 {
+    // A project whose mesh is being read keeps it as one that was given up; only then is a new file's name known.
     cancelLoad();
+    waitForLoad();
     Kernel kernel;
-    kernel.name = name.isEmpty() ? QFileInfo(filePath).completeBaseName() : name;
+    kernel.name = source.name.isEmpty() ? QFileInfo(filePath).completeBaseName() : source.name;
+    kernel.origin = source.origin.isEmpty() ? QFileInfo(filePath).absoluteFilePath() : source.origin;
     kernel.fileName = fileOfKernel(getKernelMaxID() + 1);
     Q_EMIT signal_loadStarted(filePath);
-    m_loader->start({{filePath, workingPath(kernel.fileName), predictorPath()}},
+    m_loader->start({{filePath, workingPath(kernel.fileName), MesherProcess::outputPath()}},
                     [this, filePath, kernel](const QVector<KernelReading>& readings) {
                         finishOpening(filePath, kernel, readings);
                     });
@@ -107,6 +116,7 @@ void MeshManager::finishOpening(const QString& filePath, const Kernel& kernel, c
 {
     int kernelID = 0;
     if (isUsable(readings, filePath)) {
+        forgetUnread();
         removeKernels(m_kernels.keys());
         Kernel opened = kernel;
         opened.mesh = readings.constFirst().mesh;
@@ -132,6 +142,11 @@ bool MeshManager::isLoading() const
     return m_loader->isActive();
 }
 
+void MeshManager::waitForLoad()
+{
+    m_loader->wait();
+}
+
 void MeshManager::cancelLoad()
 {
     m_loader->cancel();
@@ -144,6 +159,7 @@ void MeshManager::clear()
     if (wasLoading) {
         Q_EMIT signal_loadFinished(0);
     }
+    m_unread = {};
     removeSets(findSets(QString()));
     removeKernels(m_kernels.keys());
     resetKernelMaxID();

@@ -38,6 +38,11 @@ QString MesherProcess::outputPath()
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../temp/mesh.msh"));
 }
 
+QString MesherProcess::unfinishedPath()
+{
+    return outputPath() + QStringLiteral(".unfinished");
+}
+
 bool MesherProcess::isGeometry(const QString& path)
 {
     const QStringList suffixes{QStringLiteral("geo"),  QStringLiteral("step"), QStringLiteral("stp"),
@@ -56,11 +61,18 @@ void MesherProcess::showError(const QString& text)
     Q_EMIT IBaseSignal::getInstance()->signal_showMessageType(2, text);
 }
 
-bool MesherProcess::start(const QString& geometryPath, double elementSize)
+bool MesherProcess::mayStart() const
 {
-    const QString mesher = program();
     if (isRunning()) {
         showError(tr("The mesher is still at work. Wait until it is done, or cancel it."));
+    }
+    return !isRunning();
+}
+
+bool MesherProcess::start(const QString& geometryPath, double elementSize, const MeshSource& source)
+{
+    const QString mesher = program();
+    if (!mayStart()) {
         return false;
     }
     if (mesher.isEmpty()) {
@@ -69,26 +81,33 @@ bool MesherProcess::start(const QString& geometryPath, double elementSize)
         return false;
     }
     QDir().mkpath(QFileInfo(outputPath()).path());
-    QFile::remove(outputPath());
     m_progress = MesherProgress();
     m_geometryPath = geometryPath;
+    m_source.name = source.name.isEmpty() ? QFileInfo(geometryPath).completeBaseName() : source.name;
+    m_source.origin = source.origin.isEmpty() ? QFileInfo(geometryPath).absoluteFilePath() : source.origin;
     m_isCancelled = false;
-    QStringList arguments{
-        geometryPath,         QStringLiteral("-3"), QStringLiteral("-format"), QStringLiteral("msh22"),
-        QStringLiteral("-o"), outputPath()};
+    m_isRunning = true;
+    Q_EMIT signal_started(geometryPath);
+    m_process.start(mesher, arguments(elementSize), QIODevice::ReadOnly);
+    return m_isRunning;
+}
+
+QStringList MesherProcess::arguments(double elementSize) const
+{
+    QStringList arguments{m_geometryPath,          QStringLiteral("-3"), QStringLiteral("-format"),
+                          QStringLiteral("msh22"), QStringLiteral("-o"), unfinishedPath()};
     if (elementSize > 0) {
         arguments << QStringLiteral("-clmax") << QString::number(elementSize, 'g', 17);
     }
-    Q_EMIT signal_started(geometryPath);
-    m_process.start(mesher, arguments, QIODevice::ReadOnly);
-    return m_process.state() != QProcess::NotRunning;
+    return arguments;
 }
 
 void MesherProcess::cancel()
 {
-    m_isCancelled = true;
-    m_process.kill();
-    m_process.waitForFinished(2000);
+    if (isRunning()) {
+        m_isCancelled = true;
+        m_process.end();
+    }
 }
 
 void MesherProcess::read()
@@ -102,6 +121,7 @@ void MesherProcess::read()
 void MesherProcess::failToStart(QProcess::ProcessError error)
 {
     if (error == QProcess::FailedToStart) {
+        m_isRunning = false;
         showError(tr("The mesher could not be started: %1").arg(m_process.errorString()));
         Q_EMIT signal_finished(false);
     }
@@ -109,16 +129,28 @@ void MesherProcess::failToStart(QProcess::ProcessError error)
 
 void MesherProcess::finish(int exitCode, QProcess::ExitStatus status)
 {
+    m_isRunning = false;
     read();
-    const QString failure = m_isCancelled ? QString() : failureText(exitCode, status);
+    QString failure = m_isCancelled ? QString() : failureText(exitCode, status);
+    if (!m_isCancelled && failure.isEmpty() && !putInPlace()) {
+        failure = tr("The mesh of %1 could not be moved to %2.")
+                      .arg(QDir::toNativeSeparators(m_geometryPath), QDir::toNativeSeparators(outputPath()));
+    }
+    QFile::remove(unfinishedPath());
     if (!failure.isEmpty()) {
         showError(failure);
     }
     const bool isMeshed = !m_isCancelled && failure.isEmpty();
     Q_EMIT signal_finished(isMeshed);
     if (isMeshed) {
-        MeshManager::instance()->openMesh(outputPath(), QFileInfo(m_geometryPath).completeBaseName());
+        MeshManager::instance()->openMesh(outputPath(), m_source);
     }
+}
+
+bool MesherProcess::putInPlace()
+{
+    QFile::remove(outputPath());
+    return QFile::rename(unfinishedPath(), outputPath());
 }
 
 QString MesherProcess::failureText(int exitCode, QProcess::ExitStatus status) const
@@ -127,7 +159,7 @@ QString MesherProcess::failureText(int exitCode, QProcess::ExitStatus status) co
     if (status == QProcess::CrashExit) {
         return tr("The mesher crashed on %1. The mesh that was open stays.").arg(file);
     }
-    if (exitCode == 0 && m_progress.errors().isEmpty() && QFileInfo(outputPath()).size() > 0) {
+    if (exitCode == 0 && m_progress.errors().isEmpty() && QFileInfo(unfinishedPath()).size() > 0) {
         return {};
     }
     const QString reason = m_progress.errors().join(QStringLiteral("; "));

@@ -3,16 +3,18 @@
 
 #pragma once
 
+#include <workbench/mesh/MeshManager.h>
+#include <workbench/mesh/MesherChild.h>
 #include <workbench/mesh/MesherProgress.h>
 
 #include <QObject>
-#include <QProcess>
 #include <QString>
 
 namespace Workbench {
 
 /// Runs the mesher `gmsh` as a child process on a geometry file. The mesh goes to "../temp/mesh.msh" beside the
-/// program, where the predictor reads it, and is then opened by the MeshManager. One run at a time.
+/// program, where the predictor reads it, and is then opened by the MeshManager; what lay there stays until the new one
+/// is complete. One run at a time, which does not outlive the program.
 ///
 /// The program is the one that the environment variable WORKBENCH_GMSH names, else the first `gmsh` of the search path.
 class MesherProcess : public QObject
@@ -24,9 +26,12 @@ public:
     static MesherProcess* instance();
 
     /// Meshes a .geo, .step, .stp, .brep or .iges file with tetrahedra. `elementSize` is the largest edge in model
-    /// units; 0 leaves it to the file. False, with a message, when a run is under way or the mesher cannot be started.
-    bool start(const QString& geometryPath, double elementSize = 0);
-    bool isRunning() const { return m_process.state() != QProcess::NotRunning; }
+    /// units; 0 leaves it to the file. `source` is what the mesh is to be called, by default after the file. False,
+    /// with a message, when a run is under way or the mesher cannot be started.
+    bool start(const QString& geometryPath, double elementSize = 0, const MeshSource& source = {});
+    /// False, with a message, while a run is under way.
+    bool mayStart() const;
+    bool isRunning() const { return m_isRunning; }
     /// Ends the run; nothing is opened and nothing is told but signal_finished(false).
     void cancel();
 
@@ -50,12 +55,18 @@ private:
     void finish(int exitCode, QProcess::ExitStatus status);
     void failToStart(QProcess::ProcessError error);
     QString failureText(int exitCode, QProcess::ExitStatus status) const;
+    QStringList arguments(double elementSize) const;
     static QString program();
+    /// Where the mesher writes.
+    static QString unfinishedPath();
+    static bool putInPlace();
     static void showError(const QString& text);
 
-    QProcess m_process;
+    MesherChild m_process;
     MesherProgress m_progress;
     QString m_geometryPath;
+    MeshSource m_source;
+    bool m_isRunning = false;
     bool m_isCancelled = false;
 };
 

@@ -5,13 +5,9 @@
 
 #include <workbench/geometry/GeometryManager.h>
 #include <workbench/mesh/MeshManager.h>
-#include <workbench/project/ProjectArchive.h>
-#include <workbench/project/ProjectFiles.h>
-#include <workbench/project/RecentProjects.h>
 #include <workbench/project/WorkingDirectory.h>
 
 #include <basemodule/IBaseSignal.h>
-#include <datamanager/material/MaterialLibraryManager.h>
 
 #include <QDir>
 #include <QFile>
@@ -50,6 +46,7 @@ void Project::setModified(bool isModified)
 void Project::noteChange()
 {
     if (!m_isLoading && !MeshManager::instance()->isRestoring()) {
+        m_isChangedSince = true;
         setModified(true);
     }
 }
@@ -75,7 +72,9 @@ void Project::watchManagers()
     connect(mesh, &MeshManager::signal_groupDataListDeleted, this, &Project::noteChange);
     connect(mesh, &MeshManager::signal_visibilityChanged, this, &Project::noteChange);
     connect(IBaseSignal::getInstance(), &IBaseSignal::signal_updateWindowTitle, this, &Project::noteChange);
+    connect(mesh, &MeshManager::signal_loadFinished, this, &Project::saveWanted);
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &Project::noteFileChange);
+    connect(&m_transfer, &BackgroundTask::signal_progress, this, &Project::signal_transferProgress);
 }
 
 bool Project::fail(const QString& text, const QString& path, const QString& problem)
@@ -83,36 +82,6 @@ bool Project::fail(const QString& text, const QString& path, const QString& prob
     const QString message = text.arg(QDir::toNativeSeparators(path), problem);
     Q_EMIT IBaseSignal::getInstance()->signal_showMessageType(2, message);
     return false;
-}
-
-bool Project::save()
-{
-    return saveAs(m_path);
-}
-
-bool Project::saveAs(const QString& path)
-{
-    const QString failure = tr("The project %1 cannot be saved: %2");
-    if (MeshManager::instance()->isLoading()) {
-        return fail(failure, path, tr("a mesh is being read; wait, or cancel it"));
-    }
-    const QString directory = m_directory->path();
-    if (!QFileInfo::exists(ProjectFiles::materials(directory))) {
-        DataManager::MaterialLibraryManager::getInstance()->writeProjectMatConfig();
-    }
-    if (!GeometryManager::instance()->save(ProjectFiles::geometry(directory)) ||
-        !MeshManager::instance()->save(ProjectFiles::mesh(directory)) ||
-        !ProjectFiles::writeDescription(directory, {m_geometryName})) {
-        return fail(failure, path, tr("its working files could not be written"));
-    }
-    const QString problem = ProjectArchive::pack(directory, ProjectFiles::all(directory), path);
-    if (!problem.isEmpty()) {
-        return fail(failure, path, problem);
-    }
-    m_path = QFileInfo(path).absoluteFilePath();
-    RecentProjects::instance()->add(m_path);
-    setModified(false);
-    return true;
 }
 
 bool Project::takeGeometry(const QString& path)
@@ -125,20 +94,20 @@ bool Project::takeGeometry(const QString& path)
     if (QFileInfo(path) == QFileInfo(copy)) {
         return true;
     }
-    if (!m_geometryName.isEmpty()) {
+    if (!geometryName().isEmpty()) {
         QFile::remove(geometryPath());
     }
     if (!source.copy(copy)) {
         return fail(tr("The geometry %1 cannot be opened: %2"), path, source.errorString());
     }
-    m_geometryName = QFileInfo(path).fileName();
-    setModified(true);
+    m_geometry = {QFileInfo(path).fileName(), QFileInfo(path).absoluteFilePath()};
+    noteChange();
     return true;
 }
 
 QString Project::geometryPath() const
 {
-    return m_geometryName.isEmpty() ? QString() : ProjectFiles::geometrySource(m_directory->path(), m_geometryName);
+    return geometryName().isEmpty() ? QString() : ProjectFiles::geometrySource(m_directory->path(), geometryName());
 }
 
 } // namespace Workbench

@@ -36,6 +36,10 @@ QString keyGeometry()
 {
     return QStringLiteral("geometryFile");
 }
+QString keyOrigin()
+{
+    return QStringLiteral("geometryOrigin");
+}
 QString formatName()
 {
     return QStringLiteral("workbench project");
@@ -86,8 +90,10 @@ QStringList ProjectFiles::all(const QString& directory)
 
 bool ProjectFiles::writeDescription(const QString& directory, const Description& content)
 {
-    const QJsonObject object{
-        {keyFormat(), formatName()}, {keyVersion(), formatVersion}, {keyGeometry(), content.geometryName}};
+    const QJsonObject object{{keyFormat(), formatName()},
+                             {keyVersion(), formatVersion},
+                             {keyGeometry(), content.geometryName},
+                             {keyOrigin(), content.geometryOrigin}};
     return GlobalHelper::writeFile(description(directory), QJsonDocument(object).toJson(),
                                    QIODevice::WriteOnly | QIODevice::Truncate);
 }
@@ -105,6 +111,7 @@ QString ProjectFiles::check(const QString& directory, Description& content)
         return say(QT_TRANSLATE_NOOP("Workbench::ProjectFiles", "its description of geometry or mesh is damaged"));
     }
     content.geometryName = QFileInfo(object.value(keyGeometry()).toString()).fileName();
+    content.geometryOrigin = object.value(keyOrigin()).toString();
     return {};
 }
 

@@ -16,6 +16,8 @@ struct Description
 {
     /// Name of the geometry file, as the user knows it; empty without one.
     QString geometryName;
+    /// The path from which the file was taken, which tells it from others of its name.
+    QString geometryOrigin;
 };
 
 QString materials(const QString& directory);

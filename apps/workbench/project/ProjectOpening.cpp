@@ -7,6 +7,7 @@
 #include <workbench/geometry/GeometryManager.h>
 #include <workbench/material/MaterialLibraries.h>
 #include <workbench/mesh/MeshManager.h>
+#include <workbench/mesh/MesherProcess.h>
 #include <workbench/project/ProjectArchive.h>
 #include <workbench/project/ProjectFiles.h>
 #include <workbench/project/RecentProjects.h>
@@ -47,6 +48,7 @@ Project::~Project() = default;
 
 bool Project::create()
 {
+    waitForTransfer();
     auto directory = std::make_unique<WorkingDirectory>();
     if (!directory->isValid()) {
         return fail(tr("No working directory can be made in %1: %2"), WorkingDirectory::parentPath(),
@@ -54,7 +56,7 @@ bool Project::create()
     }
     adopt(std::move(directory));
     m_path.clear();
-    m_geometryName.clear();
+    m_geometry = {};
     setModified(false);
     Q_EMIT signal_opened();
     return true;
@@ -62,25 +64,46 @@ bool Project::create()
 
 bool Project::open(const QString& path)
 {
-    auto directory = std::make_unique<WorkingDirectory>();
-    ProjectFiles::Description description;
-    QString problem =
-        directory->isValid() ? ProjectArchive::unpack(path, directory->path()) : tr("no working directory can be made");
-    if (problem.isEmpty()) {
-        problem = ProjectFiles::check(directory->path(), description);
+    startOpening(path);
+    waitForTransfer();
+    return m_isTransferDone;
+}
+
+void Project::startOpening(const QString& path)
+{
+    waitForTransfer();
+    m_isOpening = true;
+    Q_EMIT signal_transferStarted(path, false);
+    const auto arrival = std::make_shared<Arrival>();
+    arrival->directory = std::make_unique<WorkingDirectory>();
+    m_transfer.start(
+        [path, arrival](const BackgroundTask::Progress& progress) {
+            const QString directory = arrival->directory->path();
+            arrival->problem = arrival->directory->isValid() ? ProjectArchive::unpack(path, directory, progress)
+                                                             : tr("no working directory can be made");
+            if (arrival->problem.isEmpty()) {
+                arrival->problem = ProjectFiles::check(directory, arrival->description);
+            }
+        },
+        [this, path, arrival](bool isCancelled) { finishOpening(path, *arrival, isCancelled); });
+}
+
+void Project::finishOpening(const QString& path, Arrival& arrival, bool isCancelled)
+{
+    m_isOpening = false;
+    const bool isDone = arrival.problem.isEmpty() && !isCancelled;
+    if (isDone) {
+        adopt(std::move(arrival.directory));
+        m_path = QFileInfo(path).absoluteFilePath();
+        const QString copy = ProjectFiles::geometrySource(m_directory->path(), arrival.description.geometryName);
+        m_geometry = QFile::exists(copy) ? arrival.description : ProjectFiles::Description();
+        load();
+        RecentProjects::instance()->add(m_path);
+        Q_EMIT signal_opened();
+    } else if (!isCancelled) {
+        fail(tr("The project %1 cannot be opened: %2"), path, arrival.problem);
     }
-    if (!problem.isEmpty()) {
-        return fail(tr("The project %1 cannot be opened: %2"), path, problem);
-    }
-    adopt(std::move(directory));
-    m_path = QFileInfo(path).absoluteFilePath();
-    m_geometryName = QFile::exists(ProjectFiles::geometrySource(m_directory->path(), description.geometryName))
-                         ? description.geometryName
-                         : QString();
-    load();
-    RecentProjects::instance()->add(m_path);
-    Q_EMIT signal_opened();
-    return true;
+    endTransfer(isDone);
 }
 
 // Lets go of the open project's content while its files are still there, then makes the directory the current one.
@@ -99,6 +122,7 @@ void Project::adopt(std::unique_ptr<WorkingDirectory> directory)
 
 void Project::unload()
 {
+    MesherProcess::instance()->cancel();
     SelectedDataManager::getInstance()->clearAllSelectedTarget();
     MeshManager::instance()->clear();
     GeometryManager::instance()->clear();
@@ -124,6 +148,7 @@ void Project::load()
 
 void Project::close()
 {
+    waitForTransfer();
     m_isLoading = true;
     unload();
     GlobalHelper::setProjectTempIODir(QString());

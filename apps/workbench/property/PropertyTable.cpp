@@ -62,6 +62,7 @@ void PropertyTable::changeEvent(QEvent* event)
 void PropertyTable::retranslate()
 {
     setWindowTitle(tr("Properties"));
+    m_table->setAccessibleName(windowTitle());
     m_table->setHorizontalHeaderLabels({tr("Property"), tr("Value")});
     m_timer.start(0);
 }

@@ -4,6 +4,7 @@
 #include <workbench/property/SelectionDescription.h>
 
 #include <workbench/geometry/GeometryManager.h>
+#include <workbench/material/MaterialName.h>
 #include <workbench/mesh/MeshManager.h>
 #include <workbench/project/Project.h>
 #include <workbench/property/PropertyTable.h>
@@ -11,7 +12,6 @@
 #include <basemodule/SelectModel.h>
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
 #include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
-#include <datamanager/material/MaterialLibraryManager.h>
 #include <datamanager/selection/SelectedDataManager.h>
 #include <datamodel/SelectedDataBase.h>
 
@@ -52,8 +52,7 @@ void describeVolume(PropertyTableData& table, int componentID)
     GeometryManager* geometry = GeometryManager::instance();
     addRow(table, PropertyTable::tr("volume"), geometry->getComponentName(componentID));
     addRow(table, PropertyTable::tr("number"), QString::number(componentID));
-    addRow(table, PropertyTable::tr("material"),
-           DataManager::MaterialLibraryManager::getInstance()->getMatDesByID(geometry->getMaterialID(componentID)));
+    addRow(table, PropertyTable::tr("material"), fillingTitle(geometry->getMaterialID(componentID)));
     addRow(table, PropertyTable::tr("physical group"), QString::number(geometry->getVolumeTag(componentID)));
     addRow(table, PropertyTable::tr("faces"), QString::number(geometry->getFaces(componentID).size()));
     addBox(table, geometry->getBoundingBox({componentID}));

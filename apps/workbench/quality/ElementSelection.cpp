@@ -4,6 +4,7 @@
 #include <workbench/quality/ElementSelection.h>
 
 #include <workbench/mesh/MeshManager.h>
+#include <workbench/selection/SelectionUndo.h>
 
 #include <basemodule/SelectModel.h>
 #include <datamanager/selection/SelectedDataManager.h>
@@ -14,6 +15,7 @@ namespace Workbench {
 
 void selectElements(int kernelID, const std::vector<int>& places, bool added)
 {
+    const SelectionUndo::Burst oneStep;
     const QSharedPointer<const KernelMesh> mesh = MeshManager::instance()->mesh(kernelID);
     SelectedDataManager* selection = SelectedDataManager::getInstance();
     if (selection->getSelectModel() != BaseModule::MeshElement) {

@@ -4,11 +4,13 @@
 #include <workbench/quality/HistogramView.h>
 
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
 
 #include <algorithm>
+#include <numeric>
 
 using DataManager::MeshQualityReport;
 
@@ -30,6 +32,8 @@ HistogramView::HistogramView(QWidget* parent) : QWidget(parent)
     setMinimumHeight(100);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
     setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::StrongFocus);
+    describeMark();
 }
 
 QSize HistogramView::sizeHint() const
@@ -41,6 +45,9 @@ void HistogramView::setHistogram(const MeshQualityReport::Histogram& histogram)
 {
     m_histogram = histogram;
     m_pressed = -1; // bars that are being dragged over are not those any more
+    m_mark = std::min(m_mark, binCount() - 1);
+    m_markStart = std::min(m_markStart, binCount() - 1);
+    describeMark();
     update();
 }
 
@@ -76,19 +83,36 @@ bool HistogramView::isChosen(int bin) const
 QRect HistogramView::bar(int bin) const
 {
     const int count = m_histogram.counts[static_cast<std::size_t>(bin)];
-    const int most = *std::max_element(m_histogram.counts.begin(), m_histogram.counts.end());
     const QRect area = column(bin);
-    const double share = static_cast<double>(count) / std::max(most, 1);
+    const double share = static_cast<double>(count) / std::max(highestCount(), 1);
     const int height = count == 0 ? 0 : std::max(2, static_cast<int>(share * area.height()));
     return {area.left(), area.bottom() + 1 - height, std::max(1, area.width() - 1), height};
 }
 
-QString HistogramView::tip(int bin) const
+int HistogramView::highestCount() const
+{
+    return *std::max_element(m_histogram.counts.begin(), m_histogram.counts.end());
+}
+
+QString HistogramView::countText(int first, int last) const
 {
     const double width = m_histogram.upper / binCount() - m_histogram.lower / binCount();
-    return tr("%1 to %2: %3 elements\nA click selects them, dragging those of several bars; hold Ctrl to add.")
-        .arg(number(m_histogram.lower + width * bin), number(m_histogram.lower + width * (bin + 1)))
-        .arg(m_histogram.counts[static_cast<std::size_t>(bin)]);
+    const auto begin = m_histogram.counts.begin();
+    return tr("%1 to %2: %3 elements")
+        .arg(number(m_histogram.lower + width * first), number(m_histogram.lower + width * (last + 1)))
+        .arg(std::accumulate(begin + first, begin + last + 1, 0));
+}
+
+QString HistogramView::tip(int bin) const
+{
+    return countText(bin, bin) + QLatin1Char('\n') +
+           tr("A click selects them, dragging those of several bars; hold Ctrl to add.\n"
+              "By keys: arrows mark a bar, with Shift several; Space or Enter selects.");
+}
+
+QString HistogramView::markText() const
+{
+    return isMarked() ? countText(std::min(m_mark, m_markStart), std::max(m_mark, m_markStart)) : QString();
 }
 
 bool HistogramView::event(QEvent* event)
@@ -101,26 +125,106 @@ bool HistogramView::event(QEvent* event)
     return QWidget::event(event);
 }
 
+void HistogramView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        describeMark();
+        update();
+    }
+    QWidget::changeEvent(event);
+}
+
 void HistogramView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const QRect area = plot();
     painter.fillRect(rect(), palette().base());
     painter.setPen(palette().color(QPalette::Text));
     if (binCount() == 0) {
         painter.drawText(rect(), Qt::AlignCenter, tr("no finite value"));
         return;
     }
+    paintBars(painter);
+    paintTexts(painter);
+}
+
+void HistogramView::paintBars(QPainter& painter) const
+{
     for (int bin = 0; bin < binCount(); ++bin) {
         painter.fillRect(isChosen(bin) ? column(bin) : QRect(), QColor(255, 240, 220));
         painter.fillRect(bar(bin), isChosen(bin) ? chosenColour : barColour);
     }
+    const QRect area = plot();
     painter.drawLine(area.bottomLeft() + QPoint(0, 1), area.bottomRight() + QPoint(0, 1));
-    const int most = *std::max_element(m_histogram.counts.begin(), m_histogram.counts.end());
-    painter.drawText(rect().adjusted(6, 2, -6, 0), Qt::AlignTop | Qt::AlignLeft, tr("up to %1 elements").arg(most));
+    if (isMarked()) {
+        const QRect marked = column(m_mark).united(column(m_markStart));
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRect(marked.adjusted(0, 0, 0, 1));
+    }
+}
+
+void HistogramView::paintTexts(QPainter& painter) const
+{
+    painter.setPen(palette().color(QPalette::Text));
+    const QString above = isMarked() ? markText() : tr("up to %1 elements").arg(highestCount());
+    painter.drawText(rect().adjusted(6, 2, -6, 0), Qt::AlignTop | Qt::AlignLeft, above);
     const QRect below = rect().adjusted(6, 0, -6, -2);
     painter.drawText(below, Qt::AlignBottom | Qt::AlignLeft, number(m_histogram.lower));
     painter.drawText(below, Qt::AlignBottom | Qt::AlignRight, number(m_histogram.upper));
+}
+
+void HistogramView::keyPressEvent(QKeyEvent* event)
+{
+    const bool isRange = event->modifiers().testFlag(Qt::ShiftModifier);
+    switch (binCount() == 0 ? Qt::Key_unknown : event->key()) {
+    case Qt::Key_Left:
+        return moveMark(m_mark - 1, isRange);
+    case Qt::Key_Right:
+        return moveMark(m_mark + 1, isRange);
+    case Qt::Key_Home:
+        return moveMark(0, isRange);
+    case Qt::Key_End:
+        return moveMark(binCount() - 1, isRange);
+    case Qt::Key_Space:
+    case Qt::Key_Enter:
+    case Qt::Key_Return:
+        if (isMarked()) {
+            Q_EMIT signal_binsChosen(std::min(m_mark, m_markStart), std::max(m_mark, m_markStart),
+                                     event->modifiers().testFlag(Qt::ControlModifier));
+        }
+        return;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void HistogramView::moveMark(int bin, bool isRange)
+{
+    m_mark = std::clamp(bin, 0, binCount() - 1);
+    m_markStart = isRange && m_markStart >= 0 ? m_markStart : m_mark;
+    describeMark();
+    update();
+}
+
+// Keys work from the first bar on as soon as the histogram has the focus.
+void HistogramView::focusInEvent(QFocusEvent* event)
+{
+    m_mark = std::max(m_mark, 0);
+    m_markStart = std::max(m_markStart, 0);
+    describeMark();
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void HistogramView::focusOutEvent(QFocusEvent* event)
+{
+    QWidget::focusOutEvent(event);
+    update();
+}
+
+void HistogramView::describeMark()
+{
+    setAccessibleName(tr("Histogram"));
+    setAccessibleDescription(markText());
 }
 
 void HistogramView::mousePressEvent(QMouseEvent* event)
@@ -128,6 +232,7 @@ void HistogramView::mousePressEvent(QMouseEvent* event)
     if (event->button() == Qt::LeftButton && binCount() > 0) {
         m_pressed = binAt(event->x());
         m_last = m_pressed;
+        moveMark(m_pressed, false);
         update();
     }
 }
@@ -136,7 +241,7 @@ void HistogramView::mouseMoveEvent(QMouseEvent* event)
 {
     if (m_pressed >= 0) {
         m_last = binAt(event->x());
-        update();
+        moveMark(m_last, true);
     }
 }
 
@@ -146,7 +251,7 @@ void HistogramView::mouseReleaseEvent(QMouseEvent* event)
         const int pressed = m_pressed;
         const int released = binAt(event->x());
         m_pressed = -1;
-        update();
+        moveMark(released, true);
         Q_EMIT signal_binsChosen(std::min(pressed, released), std::max(pressed, released),
                                  event->modifiers().testFlag(Qt::ControlModifier));
     }

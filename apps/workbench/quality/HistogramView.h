@@ -10,7 +10,8 @@
 namespace Workbench {
 
 /// Bars for the numbers of elements by value. A click chooses a bar, dragging several; holding Ctrl adds to what is
-/// chosen already.
+/// chosen already. By keys: arrows, Home and End move a mark, with Shift over several bars; Space or Enter chooses the
+/// marked ones. What is said of the marked bars is the accessible description.
 class HistogramView : public QWidget
 {
     Q_OBJECT
@@ -23,6 +24,9 @@ public:
     /// Where the mouse chooses a bar: its column, at full height.
     QRect column(int bin) const;
 
+    /// The bounds of the marked bars and how many elements they hold; empty without a mark.
+    QString markText() const;
+
     QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -31,7 +35,11 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -44,10 +52,21 @@ private:
     bool isChosen(int bin) const;
     QRect bar(int bin) const;
     QString tip(int bin) const;
+    QString countText(int first, int last) const;
+    int highestCount() const;
+    void paintBars(QPainter& painter) const;
+    void paintTexts(QPainter& painter) const;
+
+    bool isMarked() const { return m_mark >= 0 && hasFocus() && m_mark < binCount(); }
+    void moveMark(int bin, bool isRange);
+    void describeMark();
 
     DataManager::MeshQualityReport::Histogram m_histogram{};
     int m_pressed = -1;
     int m_last = -1;
+    /// The marked bars lie between these two; the mark is the end that keys move.
+    int m_mark = -1;
+    int m_markStart = -1;
 };
 
 } // namespace Workbench

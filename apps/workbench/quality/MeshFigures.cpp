@@ -5,6 +5,7 @@
 
 #include <workbench/mesh/MeshDisplay.h>
 #include <workbench/mesh/MeshManager.h>
+#include <workbench/quality/CheckProfile.h>
 
 #include <QCoreApplication>
 #include <QThread>
@@ -22,7 +23,10 @@ MeshFigures* MeshFigures::instance()
 MeshFigures::MeshFigures()
 {
     connect(MeshManager::instance(), &MeshManager::signal_kernalDataListChanged, this, &MeshFigures::update);
+    connect(MeshManager::instance(), &MeshManager::signal_kernalDataListDeleted, this, &MeshFigures::dropChoice);
     connect(MeshManager::instance(), &MeshManager::signal_kernalDataListDeleted, this, &MeshFigures::update);
+    connect(MeshManager::instance(), &MeshManager::signal_visibilityChanged, this, &MeshFigures::update);
+    connect(CheckProfile::instance(), &CheckProfile::signal_changed, this, &MeshFigures::update);
     connect(MeshDisplay::instance(), &MeshDisplay::signal_colouringChanged, this, &MeshFigures::update);
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &MeshFigures::stopThread);
     update();
@@ -34,11 +38,42 @@ void MeshFigures::setWorstCount(int count)
     update();
 }
 
+int MeshFigures::shownKernel()
+{
+    MeshManager* meshes = MeshManager::instance();
+    const QList<int> kernels = meshes->findKernels(QString());
+    const auto shown = std::find_if(kernels.crbegin(), kernels.crend(),
+                                    [meshes](int kernel) { return meshes->isKernelShown(kernel); });
+    return shown != kernels.crend() ? *shown : kernels.isEmpty() ? 0 : kernels.last();
+}
+
+int MeshFigures::kernelID() const
+{
+    const bool isThere = MeshManager::instance()->findKernels(QString()).contains(m_chosenKernel);
+    return isThere ? m_chosenKernel : shownKernel();
+}
+
+void MeshFigures::chooseKernel(int kernelID)
+{
+    if (m_chosenKernel != kernelID) {
+        m_chosenKernel = kernelID;
+        Q_EMIT signal_kernelChosen();
+        update();
+    }
+}
+
+void MeshFigures::dropChoice()
+{
+    if (!MeshManager::instance()->findKernels(QString()).contains(m_chosenKernel)) {
+        chooseKernel(0);
+    }
+}
+
 FiguresRequest MeshFigures::wanted() const
 {
-    const QList<int> kernels = MeshManager::instance()->findKernels(QString());
-    const int kernelID = kernels.isEmpty() ? 0 : kernels.last();
-    return {kernelID, MeshManager::instance()->mesh(kernelID), MeshDisplay::instance()->metric(), m_worstCount};
+    const int kernel = kernelID();
+    return {kernel, MeshManager::instance()->mesh(kernel), MeshDisplay::instance()->metric(), m_worstCount,
+            CheckProfile::instance()->profile()};
 }
 
 void MeshFigures::update()

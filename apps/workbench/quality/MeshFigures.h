@@ -11,8 +11,8 @@ class QThread;
 
 namespace Workbench {
 
-/// Keeps the figures of the mesh that was read last, by the metric that MeshDisplay names. They are computed in a
-/// thread of their own, so that the window goes on while millions of values are sorted.
+/// Keeps the figures of one mesh by the metric that MeshDisplay names and the profile that CheckProfile names. They are
+/// computed in a thread of their own, so that the window goes on while millions of values are sorted.
 class MeshFigures : public QObject
 {
     Q_OBJECT
@@ -27,6 +27,12 @@ public:
     const QualityFigures& figures() const { return m_figures; }
     bool isWorking() const { return m_thread != nullptr; }
 
+    /// The mesh that the user chose; 0, as at first and again when it goes, for shownKernel().
+    int chosenKernel() const { return m_chosenKernel; }
+    /// The mesh that is shown, of several the last, and when none is shown the last of all; 0 without a mesh.
+    static int shownKernel();
+    void chooseKernel(int kernelID);
+
     /// How many of the worst elements are listed, from 1 to mostWorst; 20 at first.
     int worstCount() const { return m_worstCount; }
     void setWorstCount(int count);
@@ -34,13 +40,17 @@ public:
 Q_SIGNALS:
     /// figures() are others now.
     void signal_changed();
+    /// Another mesh was chosen.
+    void signal_kernelChosen();
 
 private:
     MeshFigures();
     ~MeshFigures() override = default;
 
+    int kernelID() const;
     FiguresRequest wanted() const;
     void update();
+    void dropChoice();
     void start(const FiguresRequest& request);
     void take(const QualityFigures& figures);
     void stopThread();
@@ -48,6 +58,7 @@ private:
     QualityFigures m_figures;
     QThread* m_thread = nullptr;
     int m_worstCount = 20;
+    int m_chosenKernel = 0;
 };
 
 } // namespace Workbench

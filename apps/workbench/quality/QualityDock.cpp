@@ -4,8 +4,10 @@
 #include <workbench/quality/QualityDock.h>
 
 #include <workbench/mesh/MeshDisplay.h>
+#include <workbench/quality/CheckTable.h>
 #include <workbench/quality/ElementSelection.h>
 #include <workbench/quality/HistogramView.h>
+#include <workbench/quality/KernelChoice.h>
 #include <workbench/quality/MeshFigures.h>
 #include <workbench/quality/RegionTable.h>
 #include <workbench/quality/ScorePanel.h>
@@ -36,8 +38,8 @@ QString cell(const QString& name, double value)
 } // namespace
 
 QualityDock::QualityDock(QWidget* parent)
-    : QWidget(parent), m_metric(new QComboBox), m_title(new QLabel), m_summary(new QLabel),
-      m_histogram(new HistogramView), m_tabs(new QTabWidget)
+    : QWidget(parent), m_kernel(new KernelChoice(this)), m_metric(new QComboBox), m_title(new QLabel),
+      m_summary(new QLabel), m_histogram(new HistogramView), m_tabs(new QTabWidget)
 {
     arrange();
     m_metric->addItem(QString());
@@ -56,12 +58,14 @@ void QualityDock::arrange()
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
+    m_metric->setObjectName(QStringLiteral("metric"));
     m_summary->setObjectName(QStringLiteral("summary"));
     m_summary->setTextFormat(Qt::RichText);
     m_summary->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_tabs->addTab(new WorstList, QString());
     m_tabs->addTab(new RegionTable, QString());
-    for (QWidget* part : std::initializer_list<QWidget*>{m_metric, m_title, m_summary}) {
+    m_tabs->addTab(new CheckTable, QString());
+    for (QWidget* part : std::initializer_list<QWidget*>{m_kernel, m_metric, m_title, m_summary}) {
         layout->addWidget(part);
     }
     layout->addWidget(m_histogram, 2);
@@ -74,6 +78,8 @@ void QualityDock::retranslate()
     setWindowTitle(tr("Quality"));
     m_metric->setItemText(0, tr("Colour by face"));
     m_metric->setToolTip(tr("By what the mesh is coloured"));
+    m_metric->setAccessibleName(tr("Metric"));
+    m_tabs->setAccessibleName(tr("Lists"));
     m_tabs->setTabText(0, tr("Worst elements"));
     m_tabs->setTabText(1, tr("Regions"));
     fill();
@@ -99,6 +105,8 @@ void QualityDock::fill()
 {
     const QualityFigures& figures = MeshFigures::instance()->figures();
     m_histogram->setHistogram(figures.histogram);
+    const QString verdict = CheckTable::verdictText();
+    m_tabs->setTabText(2, verdict.isEmpty() ? tr("Check") : tr("Check: %1").arg(verdict));
     if (!figures.request.mesh) {
         m_title->setText(tr("No mesh"));
         m_summary->clear();

@@ -12,6 +12,7 @@ class QTabWidget;
 namespace Workbench {
 
 class HistogramView;
+class KernelChoice;
 
 /// How good the mesh is: a metric, how its values are spread, the worst elements, and the score.
 class QualityDock : public QWidget
@@ -32,6 +33,7 @@ private:
     static void choose(int place);
     void selectBins(int first, int last, bool isAdded);
 
+    KernelChoice* m_kernel;
     QComboBox* m_metric;
     QLabel* m_title;
     QLabel* m_summary;

@@ -18,6 +18,11 @@ double valueOfRank(std::vector<double>& values, int rank)
     return values[static_cast<std::size_t>(rank)];
 }
 
+std::vector<MeshQuality::Threshold> thresholdsOf(const FiguresRequest& request)
+{
+    return request.profile ? request.profile->thresholds : std::vector<MeshQuality::Threshold>();
+}
+
 } // namespace
 
 QualityFigures measureFigures(const FiguresRequest& request, const QualityFigures& known)
@@ -32,6 +37,9 @@ QualityFigures measureFigures(const FiguresRequest& request, const QualityFigure
         figures.regions = known.request.mesh == request.mesh
                               ? known.regions
                               : QSharedPointer<const QualityFigures::Regions>::create(report.regions());
+        for (const MeshQuality::Threshold& threshold : thresholdsOf(request)) {
+            figures.findings.push_back(MeshQuality::check(report, threshold));
+        }
     }
     return figures;
 }
@@ -59,6 +67,33 @@ std::vector<int> elementsInBins(const QualityFigures& figures, int first, int la
         }
     }
     return places;
+}
+
+std::vector<int> elementsOutside(const QualityFigures& figures, const std::vector<int>& thresholds)
+{
+    const std::vector<MeshQuality::Threshold> all = thresholdsOf(figures.request);
+    const MeshQualityReport& report = figures.request.mesh->report;
+    std::vector<char> isFailing(static_cast<std::size_t>(report.elementCount()), 0);
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const bool isMeant =
+            thresholds.empty() || std::count(thresholds.begin(), thresholds.end(), static_cast<int>(i)) > 0;
+        const std::vector<double>& values = report.values(all[i].metric);
+        for (std::size_t place = 0; isMeant && place < values.size(); ++place) {
+            isFailing[place] = isFailing[place] != 0 || isOutside(values[place], all[i]) ? 1 : 0;
+        }
+    }
+    std::vector<int> places;
+    for (std::size_t place = 0; place < isFailing.size(); ++place) {
+        if (isFailing[place] != 0) {
+            places.push_back(static_cast<int>(place));
+        }
+    }
+    return places;
+}
+
+QString regionText(int physicalTag, const QString& name)
+{
+    return name.isEmpty() ? QString::number(physicalTag) : name;
 }
 
 } // namespace Workbench

@@ -6,8 +6,10 @@
 #include <workbench/mesh/KernelMesh.h>
 
 #include <datamanager/meshquality/MeshQualityReport.h>
+#include <meshquality/Check.h>
 
 #include <QSharedPointer>
+#include <QString>
 
 #include <vector>
 
@@ -21,11 +23,13 @@ struct FiguresRequest
     QSharedPointer<const KernelMesh> mesh;
     DataManager::MeshQualityReport::Metric metric = DataManager::MeshQualityReport::Metric::ScaledJacobian;
     int worstCount = 0;
+    /// Null for no checks.
+    QSharedPointer<const MeshQuality::Profile> profile;
 
     bool operator==(const FiguresRequest& other) const
     {
         return kernelID == other.kernelID && mesh == other.mesh && metric == other.metric &&
-               worstCount == other.worstCount;
+               worstCount == other.worstCount && profile == other.profile;
     }
 };
 
@@ -41,6 +45,8 @@ struct QualityFigures
     std::vector<int> worst;
     /// Of all metrics; null without a mesh.
     QSharedPointer<const Regions> regions;
+    /// Of the thresholds of the profile, in their order.
+    std::vector<MeshQuality::Finding> findings;
 
     static constexpr int bins = 30;
 };
@@ -52,5 +58,12 @@ QualityFigures measureFigures(const FiguresRequest& request, const QualityFigure
 /// Places of the elements whose values lie in the bins of the histogram from `first` to `last`, both within it,
 /// ascending.
 std::vector<int> elementsInBins(const QualityFigures& figures, int first, int last);
+
+/// Places of the elements that lie outside of one of these thresholds, by their places in the profile, or of any where
+/// none is given; ascending.
+std::vector<int> elementsOutside(const QualityFigures& figures, const std::vector<int>& thresholds);
+
+/// A physical group for people: its name, or its tag where it has none.
+QString regionText(int physicalTag, const QString& name);
 
 } // namespace Workbench

@@ -38,11 +38,6 @@ QStringList texts(const MeshQualityReport::Region& region, MeshQualityReport::Me
 
 } // namespace
 
-QString regionText(int physicalTag, const QString& name)
-{
-    return name.isEmpty() ? QString::number(physicalTag) : name;
-}
-
 RegionTable::RegionTable(QWidget* parent) : QTableWidget(0, 13, parent)
 {
     setObjectName(QStringLiteral("regions"));
@@ -59,6 +54,7 @@ void RegionTable::retranslate()
     setHorizontalHeaderLabels({tr("Region"), tr("Elements"), tr("Minimum"), percent.arg(1), percent.arg(5),
                                tr("Median"), tr("Mean"), percent.arg(95), percent.arg(99), tr("Maximum"),
                                tr("Not finite"), tr("Inverted"), tr("Flat")});
+    setAccessibleName(tr("Regions"));
     fill();
 }
 

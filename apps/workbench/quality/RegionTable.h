@@ -23,7 +23,4 @@ private:
     void fill();
 };
 
-/// A physical group for people: its name, or its tag where it has none.
-QString regionText(int physicalTag, const QString& name);
-
 } // namespace Workbench

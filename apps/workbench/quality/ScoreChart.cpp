@@ -18,6 +18,13 @@ namespace {
 const QColor latestColour(31, 119, 180);
 const QColor earlierColour(158, 190, 214);
 
+// A model may give more than 1.
+int barHeight(float score, int whole)
+{
+    return std::isnan(score) ? 0
+                             : std::max(1, static_cast<int>(std::clamp(score, 0.0F, 1.0F) * static_cast<float>(whole)));
+}
+
 } // namespace
 
 ScoreChart::ScoreChart(QWidget* parent) : QWidget(parent)
@@ -35,6 +42,13 @@ void ScoreChart::setScores(const std::vector<float>& scores, const QStringList& 
 {
     m_scores = scores;
     m_names = meshNames;
+    QStringList tips;
+    for (int place = 0; place < count(); ++place) {
+        tips << tip(place);
+    }
+    tips.removeAll(QString());
+    setAccessibleName(tr("Last scores"));
+    setAccessibleDescription(tips.join(QStringLiteral("; ")));
     update();
 }
 
@@ -84,7 +98,7 @@ void ScoreChart::paintBar(QPainter& painter, int place)
 {
     const float score = m_scores[static_cast<std::size_t>(place)];
     const QRect area = column(place);
-    const int height = std::isnan(score) ? 0 : std::max(1, static_cast<int>(score * static_cast<float>(area.height())));
+    const int height = barHeight(score, area.height());
     painter.fillRect(area.left() + 3, area.bottom() + 1 - height, area.width() - 6, height,
                      place == count() - 1 ? latestColour : earlierColour);
     painter.setPen(palette().color(QPalette::Text));

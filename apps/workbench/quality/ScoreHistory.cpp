@@ -63,7 +63,7 @@ QString ScoreHistory::modelPath()
 
 void ScoreHistory::forgetMesh()
 {
-    if (MeshManager::instance()->getKernelCount() == 0) {
+    if (m_outcome != Outcome::None && !MeshManager::instance()->mesh(m_kernelID)) {
         m_outcome = Outcome::None;
         Q_EMIT signal_changed();
     }
@@ -75,10 +75,11 @@ void ScoreHistory::scoreMesh(int kernelID)
     if (!mesh) {
         return;
     }
+    m_kernelID = kernelID;
+    m_meshName = MeshManager::instance()->getKernelName(kernelID);
     m_means = mesh->report.features();
     // Without the file the predictor would score zeros.
-    m_outcome = QFileInfo(meshPath()).isFile() ? predict(MeshManager::instance()->getKernelName(kernelID))
-                                               : Outcome::NoMeshFile;
+    m_outcome = QFileInfo(meshPath()).isFile() ? predict(m_meshName) : Outcome::NoMeshFile;
     m_scores = MeshQualityPredict::getinstance()->getOutput();
     const QString problem = problemText();
     if (!problem.isEmpty()) {
@@ -91,10 +92,11 @@ void ScoreHistory::scoreMesh(int kernelID)
 // one that breaks the contract is not given to it: the file can be put right while the program runs.
 bool ScoreHistory::readCard()
 {
-    if (!m_isModelLoaded) {
-        m_card.read(modelPath());
-        m_modelProblem = m_card.problemText() + m_card.violations().join(QStringLiteral("; "));
+    if (m_isModelLoaded) {
+        return true;
     }
+    m_card.read(modelPath());
+    m_modelProblem = m_card.problemText() + m_card.violations().join(QStringLiteral("; "));
     return m_modelProblem.isEmpty();
 }
 
@@ -109,19 +111,26 @@ ScoreHistory::Outcome ScoreHistory::predict(const QString& name)
     const bool isUnchanged = predictor->cosDistance(m_means.data(), m_scoredMeans.data()) > unchangedSimilarity;
     try {
         predictor->predict();
+        m_isModelLoaded = true;
+        if (!isUnchanged) {
+            enter(name);
+        }
         m_score = predictor->inferFigure(m_means.data());
     } catch (const std::exception& error) {
         m_modelProblem = QString::fromUtf8(error.what());
         return Outcome::NoModel;
     }
-    m_isModelLoaded = true;
     if (isUnchanged) {
         return Outcome::Unchanged;
     }
+    return isSame(predictor->getOutput().back(), m_score) ? Outcome::Scored : Outcome::OtherMesh;
+}
+
+void ScoreHistory::enter(const QString& name)
+{
     m_names.append(name);
     m_names = m_names.mid(std::max(0, m_names.size() - historyLength));
     m_scoredMeans = m_means;
-    return isSame(predictor->getOutput().back(), m_score) ? Outcome::Scored : Outcome::OtherMesh;
 }
 
 QString ScoreHistory::problemText() const

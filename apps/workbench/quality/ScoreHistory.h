@@ -50,6 +50,8 @@ public:
     QStringList meshNames() const { return m_names; }
 
     Outcome outcome() const { return m_outcome; }
+    /// The mesh that was read last. Of no meaning without one.
+    QString meshName() const { return m_meshName; }
     /// The score of the mesh that was read last, in [0, 1] or NaN. Of no meaning without one.
     float score() const { return m_score; }
     /// The means of that mesh, which the model scores.
@@ -74,11 +76,14 @@ private:
     void scoreMesh(int kernelID);
     void forgetMesh();
     Outcome predict(const QString& name);
+    void enter(const QString& name);
     bool readCard();
 
     std::vector<float> m_scores;
     QStringList m_names;
     Outcome m_outcome = Outcome::None;
+    int m_kernelID = 0;
+    QString m_meshName;
     float m_score = 0;
     DataManager::QualityModelCard::Features m_means{};
     /// Of the mesh that was scored last; the predictor compares with it.

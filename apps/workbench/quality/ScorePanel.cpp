@@ -3,6 +3,7 @@
 
 #include <workbench/quality/ScorePanel.h>
 
+#include <workbench/mesh/MeshManager.h>
 #include <workbench/quality/ScoreChart.h>
 #include <workbench/quality/ScoreHistory.h>
 #include <workbench/quality/ScoreText.h>
@@ -37,6 +38,9 @@ ScorePanel::ScorePanel(QWidget* parent) : QWidget(parent)
     m_chart = new ScoreChart;
     layout->addWidget(m_chart);
     connect(ScoreHistory::instance(), &ScoreHistory::signal_changed, this, &ScorePanel::fill);
+    // Which mesh was scored is said when there are several.
+    connect(MeshManager::instance(), &MeshManager::signal_kernalDataListChanged, this, &ScorePanel::fill);
+    connect(MeshManager::instance(), &MeshManager::signal_kernalDataListDeleted, this, &ScorePanel::fill);
     fill();
 }
 

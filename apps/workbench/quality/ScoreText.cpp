@@ -3,6 +3,7 @@
 
 #include <workbench/quality/ScoreText.h>
 
+#include <workbench/mesh/MeshManager.h>
 #include <workbench/quality/ScoreHistory.h>
 
 #include <QCoreApplication>
@@ -82,6 +83,9 @@ QString scoreSentence(const ScoreHistory& history)
         return ScoreText::tr("A mesh is scored when it is opened.");
     }
     QStringList sentences;
+    if (MeshManager::instance()->getKernelCount() > 1) {
+        sentences << printable(ScoreText::tr("Of the mesh that was read last, %1:").arg(history.meshName()));
+    }
     if (isScored(history)) {
         sentences << verdict(history);
         sentences << printable(model(history));

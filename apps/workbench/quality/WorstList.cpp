@@ -3,12 +3,19 @@
 
 #include <workbench/quality/WorstList.h>
 
+#include <meshquality/ElementCsv.h>
 #include <workbench/mesh/MeshDisplay.h>
+#include <workbench/mesh/MeshManager.h>
 #include <workbench/quality/ElementSelection.h>
 #include <workbench/quality/MeshFigures.h>
-#include <workbench/quality/RegionTable.h>
+#include <workbench/quality/QualityFigures.h>
 
+#include <basemodule/GlobalHelper.h>
+#include <basemodule/IBaseSignal.h>
+
+#include <QDir>
 #include <QEvent>
+#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -21,7 +28,7 @@ using DataManager::MeshQualityReport;
 namespace Workbench {
 
 WorstList::WorstList(QWidget* parent)
-    : QWidget(parent), m_label(new QLabel), m_count(new QSpinBox), m_select(new QPushButton),
+    : QWidget(parent), m_label(new QLabel), m_count(new QSpinBox), m_select(new QPushButton), m_save(new QPushButton),
       m_table(new QTableWidget(0, 3))
 {
     auto* layout = new QVBoxLayout(this);
@@ -31,11 +38,15 @@ WorstList::WorstList(QWidget* parent)
     line->addWidget(m_count);
     line->addStretch();
     line->addWidget(m_select);
+    line->addWidget(m_save);
     layout->addLayout(line);
     layout->addWidget(m_table);
     m_count->setRange(1, MeshFigures::mostWorst);
     m_count->setValue(MeshFigures::instance()->worstCount());
     m_count->setKeyboardTracking(false);
+    m_label->setBuddy(m_count);
+    m_count->setObjectName(QStringLiteral("worstCount"));
+    m_save->setObjectName(QStringLiteral("saveWorst"));
     m_select->setObjectName(QStringLiteral("selectWorst"));
     m_table->setObjectName(QStringLiteral("worst"));
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -45,6 +56,7 @@ WorstList::WorstList(QWidget* parent)
     connect(m_count, QOverload<int>::of(&QSpinBox::valueChanged), MeshFigures::instance(), &MeshFigures::setWorstCount);
     connect(m_table, &QTableWidget::cellActivated, this, &WorstList::focus);
     connect(m_select, &QPushButton::clicked, this, &WorstList::select);
+    connect(m_save, &QPushButton::clicked, this, &WorstList::openSaving);
     connect(MeshFigures::instance(), &MeshFigures::signal_changed, this, &WorstList::fill);
     retranslate();
 }
@@ -54,6 +66,9 @@ void WorstList::retranslate()
     m_label->setText(tr("Number:"));
     m_select->setText(tr("Select"));
     m_select->setToolTip(tr("Selects the elements of the marked rows, or all of the list when none is marked"));
+    m_save->setText(tr("Save..."));
+    m_save->setToolTip(tr("Writes the list with all metrics as CSV, as 'meshquality report' does"));
+    m_table->setAccessibleName(tr("Worst elements"));
     m_table->setHorizontalHeaderLabels({tr("Element"), tr("Region"), tr("Value")});
     m_table->setToolTip(tr("A double click or Enter looks at the element"));
     fill();
@@ -68,6 +83,7 @@ void WorstList::fill()
         fillRow(row);
     }
     m_select->setEnabled(m_table->rowCount() > 0);
+    m_save->setEnabled(m_table->rowCount() > 0);
 }
 
 void WorstList::fillRow(int row)
@@ -101,6 +117,33 @@ void WorstList::select()
         places.push_back(figures.worst.at(static_cast<std::size_t>(index.row())));
     }
     selectElements(figures.request.kernelID, places.empty() ? figures.worst : places, false);
+}
+
+void WorstList::openSaving()
+{
+    auto* const dialog = new QFileDialog(this);
+    dialog->setObjectName(QStringLiteral("saveDialog"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilter(QStringLiteral("CSV (*.csv)"));
+    dialog->setDefaultSuffix(QStringLiteral("csv"));
+    connect(dialog, &QFileDialog::fileSelected, this, &WorstList::save);
+    dialog->open();
+}
+
+// The mesh may have gone while the name was chosen; the file then holds the names of the columns.
+void WorstList::save(const QString& path) const
+{
+    const QualityFigures& figures = MeshFigures::instance()->figures();
+    const QString mesh = MeshManager::instance()->getKernelName(figures.request.kernelID);
+    QByteArray content = MeshQuality::elementHeader();
+    for (const int place : figures.worst) {
+        content += MeshQuality::elementLine(mesh, figures.request.mesh->report, place);
+    }
+    if (!BaseModule::GlobalHelper::writeFile(path, content, QIODevice::WriteOnly | QIODevice::Truncate)) {
+        Q_EMIT BaseModule::IBaseSignal::getInstance()->signal_showMessageType(
+            2, tr("The list could not be written to %1.").arg(QDir::toNativeSeparators(path)));
+    }
 }
 
 void WorstList::changeEvent(QEvent* event)

@@ -29,10 +29,13 @@ private:
     void fillRow(int row);
     void focus(int row);
     void select();
+    void openSaving();
+    void save(const QString& path) const;
 
     QLabel* m_label;
     QSpinBox* m_count;
     QPushButton* m_select;
+    QPushButton* m_save;
     QTableWidget* m_table;
 };
 

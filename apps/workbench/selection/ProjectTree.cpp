@@ -40,6 +40,7 @@ ProjectTree::ProjectTree(QWidget* parent) : QWidget(parent), m_tree(new QTreeWid
     connect(m_tree, &QTreeWidget::itemSelectionChanged, this, &ProjectTree::select);
     connect(m_tree, &QTreeWidget::itemChanged, this, &ProjectTree::showOrHide);
     connect(m_tree, &QTreeWidget::customContextMenuRequested, this, &ProjectTree::openMenu);
+    connect(m_tree, &QTreeWidget::itemDoubleClicked, this, &ProjectTree::selectSet);
     listen();
     retranslate();
 }
@@ -50,6 +51,8 @@ void ProjectTree::listen()
     const GeometryManager* geometry = GeometryManager::instance();
     connect(geometry, &GeometryManager::signal_componentListDataChanged, this, rebuildSoon);
     connect(geometry, &GeometryManager::signal_componentListRemoved, this, rebuildSoon);
+    connect(geometry, &GeometryManager::signal_geoSetListDataChanged, this, rebuildSoon);
+    connect(geometry, &GeometryManager::signal_geoSetListRemoved, this, rebuildSoon);
     const MeshManager* meshes = MeshManager::instance();
     connect(meshes, &MeshManager::signal_kernalDataListChanged, this, rebuildSoon);
     connect(meshes, &MeshManager::signal_kernalDataListDeleted, this, rebuildSoon);
@@ -90,9 +93,8 @@ void ProjectTree::rebuild()
             m_isExpanded.insert(item->data(1, Qt::UserRole).toString(), item->isExpanded());
         }
         m_tree->clear();
-        int number = 0;
         for (const ProjectTreeLine& line : projectTreeContent()) {
-            QTreeWidgetItem* item = makeItem(line, QString::number(number++));
+            QTreeWidgetItem* item = makeItem(line, QString::number(line.firstID));
             m_tree->addTopLevelItem(item);
             restoreExpansion(item);
         }
@@ -104,7 +106,7 @@ QTreeWidgetItem* ProjectTree::makeItem(const ProjectTreeLine& line, const QStrin
 {
     auto* item = new QTreeWidgetItem({line.text, line.details});
     item->setData(0, Qt::UserRole,
-                  QVariantList{static_cast<int>(line.kind), line.selectModel, line.firstID, line.secondID});
+                  QVariantList{static_cast<int>(line.kind), line.selectModel, line.firstID, line.secondID, line.isOwn});
     item->setData(1, Qt::UserRole, path);
     item->setForeground(1, QColor(95, 105, 118));
     item->setToolTip(0, line.text);

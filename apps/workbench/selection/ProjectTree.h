@@ -10,13 +10,14 @@
 #include <QTimer>
 #include <QWidget>
 
+class QMenu;
 class QTreeWidget;
 class QTreeWidgetItem;
 
 namespace Workbench {
 
-/// The project as a tree: volumes with their faces, meshes with their groups, materials, coordinate systems. Lines are
-/// selected through the selection store, and follow it; marks show and hide.
+/// The project as a tree: volumes with their faces, named sets of them, meshes with their groups, materials, coordinate
+/// systems. Lines are selected through the selection store, and follow it; marks show and hide.
 class ProjectTree : public QWidget
 {
     Q_OBJECT
@@ -41,9 +42,22 @@ private:
     void followSelection();
     QMap<int, QList<Item>> selectedLines() const;
     void showOrHide(QTreeWidgetItem* item);
+    void selectSet(const QTreeWidgetItem* item);
+
+    /// What a menu was opened for; the lines themselves may be made anew while it is open.
+    struct Target
+    {
+        ProjectTreeLine::Kind kind;
+        Item pair;
+        QString text;
+        bool isOwn;
+    };
+
     void openMenu(const QPoint& position);
-    void showOnly(QTreeWidgetItem* item);
-    void rename(QTreeWidgetItem* item);
+    void fillMenu(QMenu& menu, const Target& target);
+    void fillVolumeMenu(QMenu& menu, const Target& target);
+    void fillSetMenu(QMenu& menu, const Target& target);
+    void rename(const Target& target);
 
     QTreeWidget* m_tree;
     QTimer m_rebuild;

@@ -4,12 +4,12 @@
 #include <workbench/selection/ProjectTreeContent.h>
 
 #include <workbench/geometry/GeometryManager.h>
+#include <workbench/material/MaterialName.h>
 #include <workbench/mesh/MeshManager.h>
 #include <workbench/selection/ProjectTree.h>
 
 #include <basemodule/MaterialLibType.h>
 #include <basemodule/SelectModel.h>
-#include <configoption/ConfigManager.h>
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
 #include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
 #include <datamanager/material/MaterialLibraryManager.h>
@@ -23,17 +23,10 @@ namespace {
 
 using Line = ProjectTreeLine;
 
-QString materialName(const DataModel::MaterialData& material)
-{
-    const bool isChinese = ConfigOption::ConfigManager::getInstance()->getLanguage() == QLatin1String("Chinese");
-    return isChinese ? material.chineseName : material.englishName;
-}
-
 QString materialOfVolume(int componentID)
 {
     const int materialID = GeometryManager::instance()->getMaterialID(componentID);
-    const auto material = MaterialLibraryManager::getInstance()->getProjectMatByID(materialID);
-    return material ? materialName(*material) : QString();
+    return materialID == 0 ? QString() : fillingTitle(materialID);
 }
 
 Line faceLine(int componentID, int faceID)
@@ -71,6 +64,23 @@ Line volumesLine()
     return heading;
 }
 
+Line setsLine()
+{
+    GeometryManager* geometry = GeometryManager::instance();
+    Line heading;
+    heading.text = ProjectTree::tr("Sets");
+    for (int setID : geometry->findSets(QString())) {
+        Line line;
+        line.kind = Line::Kind::Set;
+        line.text = geometry->getSetName(setID);
+        line.details = ProjectTree::tr("%1 members").arg(geometry->getSetMembers(setID).size());
+        line.firstID = setID;
+        line.isOwn = true;
+        heading.children.append(line);
+    }
+    return heading;
+}
+
 Line groupLine(int kernelID, int groupID)
 {
     MeshManager* meshes = MeshManager::instance();
@@ -83,6 +93,7 @@ Line groupLine(int kernelID, int groupID)
     line.secondID = groupID;
     line.isCheckable = true;
     line.isShown = meshes->isGroupShown(kernelID, groupID);
+    line.isOwn = meshes->getGroupPhysicalTag(kernelID, groupID) == 0;
     return line;
 }
 
@@ -102,6 +113,13 @@ Line meshesLine()
         }
         heading.children.append(line);
     }
+    for (const QString& name : meshes->getUnreadNames()) {
+        Line line;
+        line.kind = Line::Kind::UnreadMesh;
+        line.text = name;
+        line.details = ProjectTree::tr("not read");
+        heading.children.append(line);
+    }
     return heading;
 }
 
@@ -115,7 +133,7 @@ Line materialsLine()
         }
         Line line;
         line.kind = Line::Kind::Material;
-        line.text = materialName(*material);
+        line.text = materialTitle(*material);
         const int uses = GeometryManager::instance()->findComponentsOfMaterial(material->id).size();
         line.details = uses > 0 ? ProjectTree::tr("used by %1").arg(uses) : QString();
         line.firstID = material->id;
@@ -147,7 +165,14 @@ Line systemsLine()
 
 QList<ProjectTreeLine> projectTreeContent()
 {
-    return {volumesLine(), meshesLine(), materialsLine(), systemsLine()};
+    QList<ProjectTreeLine> headings{volumesLine(), setsLine(), meshesLine(), materialsLine(), systemsLine()};
+    for (int i = 0; i < headings.size(); ++i) {
+        headings[i].firstID = i; // the same for each heading, whichever are there
+    }
+    if (headings[1].children.isEmpty()) {
+        headings.removeAt(1);
+    }
+    return headings;
 }
 
 } // namespace Workbench

@@ -16,7 +16,10 @@ struct ProjectTreeLine
         Heading,
         Volume,
         Face,
+        Set,
         Mesh,
+        /// A mesh whose file could not be read.
+        UnreadMesh,
         Group,
         Material,
         CoordinateSystem
@@ -29,6 +32,8 @@ struct ProjectTreeLine
     int selectModel = -1;
     int firstID = 0;
     int secondID = -1;
+    /// Whether the user made it and may delete it.
+    bool isOwn = false;
     /// Whether the line has a mark that shows or hides what it stands for, and its state.
     bool isCheckable = false;
     bool isShown = true;

@@ -5,11 +5,10 @@
 
 #include <workbench/geometry/GeometryManager.h>
 #include <workbench/mesh/MeshManager.h>
+#include <workbench/selection/NamedSelections.h>
 
 #include <datamanager/selection/SelectedDataManager.h>
 
-#include <QInputDialog>
-#include <QMenu>
 #include <QScopedValueRollback>
 #include <QSet>
 #include <QTreeWidget>
@@ -114,44 +113,10 @@ void ProjectTree::showOrHide(QTreeWidgetItem* item)
     }
 }
 
-void ProjectTree::openMenu(const QPoint& position)
+void ProjectTree::selectSet(const QTreeWidgetItem* item)
 {
-    QTreeWidgetItem* item = m_tree->itemAt(position);
-    const bool isVolume = item != nullptr && kindOf(item) == ProjectTreeLine::Kind::Volume;
-    if (!isVolume && (item == nullptr || kindOf(item) != ProjectTreeLine::Kind::Group)) {
-        return;
-    }
-    QMenu menu(this);
-    if (isVolume) {
-        menu.addAction(tr("Show only this"), this, [this, item] { showOnly(item); });
-        menu.addAction(tr("Show all"), this, [] {
-            GeometryManager::instance()->showComponents(GeometryManager::instance()->findComponents(QString()), true);
-        });
-    }
-    menu.addAction(tr("Rename…"), this, [this, item] { rename(item); });
-    menu.exec(m_tree->viewport()->mapToGlobal(position));
-}
-
-void ProjectTree::showOnly(QTreeWidgetItem* item)
-{
-    GeometryManager* geometry = GeometryManager::instance();
-    QList<int> others = geometry->findComponents(QString());
-    others.removeAll(pairOf(item).first);
-    geometry->showComponents(others, false);
-    geometry->showComponents({pairOf(item).first}, true);
-}
-
-void ProjectTree::rename(QTreeWidgetItem* item)
-{
-    bool isConfirmed = false;
-    const ProjectTreeLine::Kind kind = kindOf(item);
-    const Item pair = pairOf(item);
-    const QString name =
-        QInputDialog::getText(this, tr("Rename"), tr("New name:"), QLineEdit::Normal, item->text(0), &isConfirmed);
-    if (isConfirmed && kind == ProjectTreeLine::Kind::Volume) {
-        GeometryManager::instance()->renameComponent(pair.first, name.trimmed());
-    } else if (isConfirmed) {
-        MeshManager::instance()->renameGroup(pair.first, pair.second, name.trimmed());
+    if (kindOf(item) == ProjectTreeLine::Kind::Set) {
+        NamedSelections::selectSet(pairOf(item).first);
     }
 }
 

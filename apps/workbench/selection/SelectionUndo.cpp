@@ -68,10 +68,18 @@ public:
     }
 
     void undo() override { m_undo->restore(m_before); }
-    void redo() override { m_undo->restore(m_after); }
+    // Called when the step is pushed, too, and what it describes is done already.
+    void redo() override
+    {
+        if (m_isDone) {
+            m_undo->restore(m_after);
+        }
+        m_isDone = true;
+    }
 
 private:
     SelectionUndo* m_undo;
+    bool m_isDone = false;
     SelectionUndo::Selection m_before;
     SelectionUndo::Selection m_after;
 };
@@ -93,14 +101,32 @@ SelectionUndo::SelectionUndo() : m_stack(new QUndoStack(this)), m_known(currentS
     connect(MeshManager::instance(), &MeshManager::signal_kernalDataListDeleted, this, &SelectionUndo::forget);
 }
 
+SelectionUndo::Burst::~Burst()
+{
+    --instance()->m_bursts;
+    instance()->noteChange();
+}
+
 void SelectionUndo::noteChange()
 {
+    if (m_bursts > 0) {
+        return;
+    }
     const Selection now = currentSelection();
     if (!m_isRestoring && now != m_known) {
-        const QScopedValueRollback<bool> restoring(m_isRestoring, true); // pushing calls redo()
         m_stack->push(new SelectionStep(this, m_known, now));
     }
     m_known = now;
+}
+
+void SelectionUndo::select(const Selection& selection)
+{
+    const Selection before = currentSelection();
+    restore(selection);
+    const Selection now = currentSelection();
+    if (now != before) {
+        m_stack->push(new SelectionStep(this, before, now));
+    }
 }
 
 void SelectionUndo::restore(const Selection& selection)

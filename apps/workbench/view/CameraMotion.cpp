@@ -120,19 +120,50 @@ void CameraMotion::fit()
     m_renderer.ResetCameraClippingRange();
 }
 
+double CameraMotion::aspect() const
+{
+    const int* size = m_renderer.GetSize();
+    return size[1] > 0 && size[0] > 0 ? static_cast<double>(size[0]) / size[1] : 1;
+}
+
+// To the right and upwards from the middle of the window, in lengths of the model.
+std::array<std::array<double, 2>, 8> CameraMotion::cornersAsSeen(const double box[6]) const
+{
+    std::array<std::array<double, 2>, 8> corners{};
+    for (unsigned i = 0; i < corners.size(); ++i) {
+        const double world[4] = {box[i & 1U], box[2 + ((i >> 1U) & 1U)], box[4 + ((i >> 2U) & 1U)], 1};
+        double seen[4];
+        m_renderer.GetActiveCamera()->GetViewTransformMatrix()->MultiplyPoint(world, seen);
+        corners[i] = {seen[0], seen[1]};
+    }
+    return corners;
+}
+
 // Half the height of the window that shows the box just so.
 double CameraMotion::halfHeight(const double box[6]) const
 {
-    const int* size = m_renderer.GetSize();
-    const double aspect = size[1] > 0 && size[0] > 0 ? static_cast<double>(size[0]) / size[1] : 1;
     double half = 0;
-    for (int corner = 0; corner < 8; ++corner) {
-        const double world[4] = {box[corner & 1], box[2 + ((corner >> 1) & 1)], box[4 + ((corner >> 2) & 1)], 1};
-        double seen[4];
-        m_renderer.GetActiveCamera()->GetViewTransformMatrix()->MultiplyPoint(world, seen);
-        half = std::max({half, std::abs(seen[1]), std::abs(seen[0]) / aspect});
+    for (const std::array<double, 2>& corner : cornersAsSeen(box)) {
+        half = std::max({half, std::abs(corner[1]), std::abs(corner[0]) / aspect()});
     }
     return half > 0 ? half : 1;
+}
+
+Seen CameraMotion::seen(const Box& box) const
+{
+    const double height = m_renderer.GetActiveCamera()->GetParallelScale();
+    const std::array<double, 2> ends = {height * aspect(), height};
+    const auto corners = cornersAsSeen(box.data());
+    bool isWhole = true;
+    for (std::size_t axis = 0; axis < 2; ++axis) {
+        const auto isLess = [axis](const auto& a, const auto& b) { return a[axis] < b[axis]; };
+        const auto [least, most] = std::minmax_element(corners.begin(), corners.end(), isLess);
+        if ((*least)[axis] > ends[axis] || (*most)[axis] < -ends[axis]) {
+            return Seen::Nothing;
+        }
+        isWhole = isWhole && (*least)[axis] >= -ends[axis] && (*most)[axis] <= ends[axis];
+    }
+    return isWhole ? Seen::Whole : Seen::Part;
 }
 
 void CameraMotion::lookFrom(ViewCommands::Direction direction)

@@ -3,7 +3,10 @@
 
 #pragma once
 
+#include <workbench/view/CameraAim.h>
 #include <workbench/view/ViewCommands.h>
+
+#include <array>
 
 class vtkRenderer;
 
@@ -28,7 +31,12 @@ public:
     /// Looks at a sphere, from where it looks now.
     void lookAt(const double centre[3], double radius);
 
+    /// How much of a box is seen, were nothing before it.
+    Seen seen(const Box& box) const;
+
 private:
+    std::array<std::array<double, 2>, 8> cornersAsSeen(const double box[6]) const;
+    double aspect() const;
     double halfHeight(const double box[6]) const;
     void worldOfDisplay(double x, double y, double world[3]) const;
 

@@ -7,6 +7,7 @@
 #include <workbench/mesh/MeshManager.h>
 #include <workbench/view/FaceColours.h>
 #include <workbench/view/HighlightState.h>
+#include <workbench/view/OutsideSides.h>
 #include <workbench/view/SkinData.h>
 
 #include <basemodule/SelectModel.h>
@@ -25,6 +26,9 @@ namespace Workbench {
 namespace {
 
 using Corners = std::vector<std::array<int, 3>>;
+
+// Beyond, edges are nearer to one another than pixels, and drawing them costs many times the triangles.
+constexpr std::size_t mostWithEdges = 60000;
 
 vtkSmartPointer<vtkActor> makeActor()
 {
@@ -49,9 +53,8 @@ vtkSmartPointer<vtkActor> makeActor()
 std::vector<char> groupElements(int kernelID, const KernelMesh& mesh, const HighlightState& state)
 {
     std::vector<char> marked(static_cast<std::size_t>(mesh.report.elementCount()), 0);
-    for (const HighlightState::Item& item : state.items(BaseModule::MeshGroup)) {
-        for (int place : item.first == kernelID ? MeshManager::instance()->getGroupElements(kernelID, item.second)
-                                                : std::vector<int>()) {
+    for (int groupID : state.items(BaseModule::MeshGroup).secondsOf(kernelID)) {
+        for (int place : MeshManager::instance()->getGroupElements(kernelID, groupID)) {
             marked[static_cast<std::size_t>(place)] = 1;
         }
     }
@@ -62,8 +65,8 @@ std::vector<char> groupElements(int kernelID, const KernelMesh& mesh, const High
 std::vector<char> markedPatches(int kernelID, const KernelMesh& mesh, const HighlightState& state)
 {
     const GeometryManager* geometry = GeometryManager::instance();
-    const QSet<HighlightState::Item> volumes = state.items(BaseModule::GeometryComponent);
-    const QSet<HighlightState::Item> faces = state.items(BaseModule::GeometryFace);
+    const ItemSet& volumes = state.items(BaseModule::GeometryComponent);
+    const ItemSet& faces = state.items(BaseModule::GeometryFace);
     std::vector<char> marked;
     for (const FacePatch& patch : mesh.patches) {
         const int componentID = geometry->componentOfVolume(kernelID, patch.volumeTag);
@@ -91,23 +94,22 @@ Corners surfaceCorners(int kernelID, const KernelMesh& mesh, const HighlightStat
 
 Corners elementCorners(int kernelID, const KernelMesh& mesh, const HighlightState& state)
 {
-    Corners corners;
-    for (const HighlightState::Item& item : state.items(BaseModule::MeshElement)) {
-        const int place = item.first == kernelID ? mesh.elementNumbers.place(item.second) : -1;
+    std::vector<int> places;
+    for (int element : state.items(BaseModule::MeshElement).secondsOf(kernelID)) {
+        const int place = mesh.elementNumbers.place(element);
         if (place >= 0) {
-            const Corners sides = sidesOfElement(mesh, place);
-            corners.insert(corners.end(), sides.begin(), sides.end());
+            places.push_back(place);
         }
     }
-    return corners;
+    return places.empty() ? Corners() : outsideSides(mesh, places);
 }
 
 std::vector<int> nodePlaces(int kernelID, const KernelMesh& mesh, const HighlightState& state)
 {
     std::vector<int> places;
-    for (const HighlightState::Item& item : state.items(BaseModule::MeshNode)) {
-        if (item.first == kernelID && item.second >= 1 && item.second <= mesh.report.nodeCount()) {
-            places.push_back(item.second - 1);
+    for (int node : state.items(BaseModule::MeshNode).secondsOf(kernelID)) {
+        if (node >= 1 && node <= mesh.report.nodeCount()) {
+            places.push_back(node - 1);
         }
     }
     return places;
@@ -117,6 +119,9 @@ std::vector<int> nodePlaces(int kernelID, const KernelMesh& mesh, const Highligh
 
 HighlightActor::HighlightActor() : m_surfaces(makeActor()), m_elements(makeActor()), m_nodes(makeActor())
 {
+    // That the skin stands back does not do where it is seen askew.
+    m_surfaces->GetMapper()->SetRelativeCoincidentTopologyPolygonOffsetParameters(-2, -2);
+    m_elements->GetProperty()->BackfaceCullingOn(); // they are closed
     m_nodes->GetProperty()->SetPointSize(9);
     m_nodes->GetProperty()->SetEdgeVisibility(false);
     m_nodes->GetProperty()->LightingOff();
@@ -140,6 +145,17 @@ vtkActor* HighlightActor::nodes() const
     return m_nodes;
 }
 
+long long HighlightActor::cellCount() const
+{
+    long long count = 0;
+    for (vtkActor* actor : {m_surfaces.Get(), m_elements.Get(), m_nodes.Get()}) {
+        if (actor->GetVisibility() != 0) {
+            count += vtkPolyDataMapper::SafeDownCast(actor->GetMapper())->GetInput()->GetNumberOfCells();
+        }
+    }
+    return count;
+}
+
 void HighlightActor::update(int kernelID, const KernelMesh& mesh, const HighlightState& state)
 {
     setTriangles(*m_surfaces, mesh, surfaceCorners(kernelID, mesh, state));
@@ -150,19 +166,19 @@ void HighlightActor::update(int kernelID, const KernelMesh& mesh, const Highligh
 void HighlightActor::setTriangles(vtkActor& actor, const KernelMesh& mesh, const Corners& corners)
 {
     actor.SetVisibility(!corners.empty());
+    actor.GetProperty()->SetEdgeVisibility(corners.size() <= mostWithEdges);
     vtkPolyDataMapper::SafeDownCast(actor.GetMapper())->SetInputData(makeSkinData(mesh, corners).triangles);
 }
 
 void HighlightActor::setPoints(const KernelMesh& mesh, const std::vector<int>& places)
 {
-    vtkNew<vtkPoints> points;
     vtkNew<vtkCellArray> vertices;
-    vtkNew<vtkPolyData> data;
-    for (int place : places) {
-        const vtkIdType point = points->InsertNextPoint(mesh.report.node(place).data());
+    vertices->AllocateEstimate(static_cast<vtkIdType>(places.size()), 1);
+    for (vtkIdType point = 0; point < static_cast<vtkIdType>(places.size()); ++point) {
         vertices->InsertNextCell(1, &point);
     }
-    data->SetPoints(points);
+    vtkNew<vtkPolyData> data;
+    data->SetPoints(pointsOf(mesh, places));
     data->SetVerts(vertices);
     m_nodes->SetVisibility(!places.empty());
     vtkPolyDataMapper::SafeDownCast(m_nodes->GetMapper())->SetInputData(data);

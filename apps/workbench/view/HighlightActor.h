@@ -28,6 +28,9 @@ public:
     /// Likewise: nodes.
     vtkActor* nodes() const;
 
+    /// How many triangles and points are drawn.
+    long long cellCount() const;
+
     void update(int kernelID, const KernelMesh& mesh, const HighlightState& state);
 
 private:

@@ -3,11 +3,12 @@
 
 #pragma once
 
+#include <workbench/view/ItemSet.h>
+
 #include <QList>
-#include <QMap>
 #include <QObject>
-#include <QPair>
-#include <QSet>
+
+#include <map>
 
 namespace Workbench {
 
@@ -17,24 +18,26 @@ class HighlightState : public QObject
     Q_OBJECT
 
 public:
-    using Item = QPair<int, int>;
+    using Item = ItemSet::Item;
 
     explicit HighlightState(QObject* parent = nullptr);
 
-    /// The items of that select model.
-    QSet<Item> items(int selectModel) const { return m_items.value(selectModel); }
+    /// The items of that select model. Valid until the next signal of the hub.
+    const ItemSet& items(int selectModel) const;
     bool isEmpty() const;
 
 Q_SIGNALS:
+    /// Something came or went.
     void signal_changed();
 
 private:
     void setList(int selectModel, const QList<Item>& objectList, bool isShow);
-    void set(int selectModel, const Item& item, bool isShow);
+    void setOne(int selectModel, const Item& item, bool isShow);
+    bool set(int selectModel, const Item& item, bool isShow);
     void clear();
     void readAgain(int selectModel);
 
-    QMap<int, QSet<Item>> m_items;
+    std::map<int, ItemSet> m_items;
 };
 
 } // namespace Workbench

@@ -5,6 +5,7 @@
 
 #include <workbench/geometry/GeometryManager.h>
 #include <workbench/mesh/MeshManager.h>
+#include <workbench/view/AxesPicking.h>
 #include <workbench/view/SkinActor.h>
 
 #include <vtkActor.h>
@@ -20,7 +21,6 @@
 
 #include <algorithm>
 #include <array>
-#include <set>
 
 namespace Workbench {
 namespace {
@@ -128,6 +128,10 @@ bool Picking::hitAt(int x, int y, Hit& hit) const
 
 bool Picking::itemAt(int x, int y, BaseModule::SelectModel model, Item& item) const
 {
+    if (model == BaseModule::CoordinateAxes) {
+        item = {axesAt(m_renderer, x, y), -1};
+        return item.first >= 0;
+    }
     Hit hit;
     if (!hitAt(x, y, hit)) {
         return false;
@@ -167,6 +171,21 @@ QList<Picking::Item> Picking::itemsIn(int x0, int y0, int x1, int y1, BaseModule
 {
     const int area[4] = {std::max(std::min(x0, x1), 0), std::max(std::min(y0, y1), 0), std::max(x0, x1),
                          std::max(y0, y1)};
+    QList<Item> items;
+    if (model == BaseModule::CoordinateAxes) {
+        for (int id : axesIn(m_renderer, area)) {
+            items.append({id, -1});
+        }
+        return items;
+    }
+    for (const auto& [first, second] : skinItemsIn(area, model)) {
+        items.append({first, second});
+    }
+    return items;
+}
+
+std::set<std::pair<int, int>> Picking::skinItemsIn(const int area[4], BaseModule::SelectModel model) const
+{
     const std::map<vtkProp*, std::vector<vtkIdType>> cells = visibleCells(m_renderer, area);
     std::set<std::pair<int, int>> found;
     for (const auto& [kernelID, skin] : m_skins) {
@@ -188,11 +207,7 @@ QList<Picking::Item> Picking::itemsIn(int x0, int y0, int x1, int y1, BaseModule
             }
         }
     }
-    QList<Item> items;
-    for (const auto& [first, second] : found) {
-        items.append({first, second});
-    }
-    return items;
+    return found;
 }
 
 } // namespace Workbench

@@ -10,6 +10,8 @@
 
 #include <map>
 #include <memory>
+#include <set>
+#include <utility>
 
 class vtkRenderer;
 
@@ -38,6 +40,7 @@ public:
 private:
     struct Hit;
 
+    std::set<std::pair<int, int>> skinItemsIn(const int area[4], BaseModule::SelectModel model) const;
     bool hitAt(int x, int y, Hit& hit) const;
     int nearestNode(const SkinActor& skin, long long cell, int x, int y) const;
     bool isNodeIn(const SkinActor& skin, int node, const int area[4]) const;

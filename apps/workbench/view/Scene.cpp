@@ -198,6 +198,15 @@ void Scene::updateHighlight(const HighlightState& state)
     }
 }
 
+long long Scene::cellCount() const
+{
+    long long count = 0;
+    for (const auto& [kernelID, skin] : m_skins) {
+        count += skin->cellCount() + m_highlights.at(kernelID)->cellCount();
+    }
+    return count;
+}
+
 void Scene::updateCoordinateAxes()
 {
     for (const vtkSmartPointer<vtkProp>& axes : m_shownAxes) {

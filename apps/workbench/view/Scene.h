@@ -42,6 +42,9 @@ public:
     const Picking::Skins& skins() const { return m_skins; }
     MeasuringLine& measuringLine() { return m_measuringLine; }
 
+    /// How many triangles and points are drawn.
+    long long cellCount() const;
+
     /// Draws these kernels and no others.
     void setKernels(const QList<int>& kernelIDList);
     /// The following read from the managers what they draw.

@@ -10,6 +10,7 @@
 #include <functional>
 #include <vector>
 
+class vtkPoints;
 class vtkPolyData;
 
 namespace Workbench {
@@ -24,6 +25,9 @@ struct SkinData
 
 /// The triangles with these corners, given as places of nodes.
 SkinData makeSkinData(const KernelMesh& mesh, const std::vector<std::array<int, 3>>& corners);
+
+/// The positions of nodes.
+vtkSmartPointer<vtkPoints> pointsOf(const KernelMesh& mesh, const std::vector<int>& nodes);
 
 /// Places of the boundary faces of the mesh whose element is shown.
 std::vector<int> shownFaces(const KernelMesh& mesh, const std::function<bool(int element)>& isShown);

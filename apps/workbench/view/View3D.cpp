@@ -23,11 +23,19 @@
 #include <vtkGenericOpenGLRenderWindow.h>
 #include <vtkNew.h>
 #include <vtkRenderWindowInteractor.h>
+#include <vtkRenderer.h>
+
+#include <algorithm>
 
 using BaseModule::IBaseSignal;
 using DataManager::RelativeCoordinateSystemDate;
 
 namespace Workbench {
+namespace {
+
+constexpr long long mostSmoothed = 200000;
+
+} // namespace
 
 View3D::View3D(QWidget* parent)
     : QWidget(parent), m_scene(std::make_unique<Scene>()), m_highlight(new HighlightState(this)),
@@ -37,6 +45,7 @@ View3D::View3D(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_canvas);
     vtkNew<vtkGenericOpenGLRenderWindow> window;
+    m_samples = window->GetMultiSamples();
     m_canvas->setRenderWindow(window);
     m_canvas->setFocusPolicy(Qt::StrongFocus);
     m_canvas->setMouseTracking(true);
@@ -114,7 +123,9 @@ void View3D::listenToCommands()
 void View3D::note(unsigned changes)
 {
     m_changes |= changes;
-    m_timer.start(0);
+    if (!m_timer.isActive()) {
+        m_timer.start(0);
+    }
 }
 
 void View3D::update3D()
@@ -126,10 +137,11 @@ void View3D::update3D()
         return;
     }
     if ((changes & Kernels) != 0) {
-        takeKernels();
+        m_scene->setKernels(MeshManager::instance()->findKernels(QString()));
     }
     if ((changes & (Kernels | Visibility)) != 0) {
         m_scene->updateVisibility();
+        aimCamera();
     }
     if ((changes & (Kernels | Colours)) != 0) {
         m_scene->updateColours();
@@ -143,17 +155,35 @@ void View3D::update3D()
     if ((changes & Axes) != 0) {
         m_scene->updateCoordinateAxes();
     }
+    chooseSmoothing();
     m_canvas->renderWindow()->Render();
 }
 
-void View3D::takeKernels()
+void View3D::aimCamera()
 {
-    const QList<int> kernels = MeshManager::instance()->findKernels(QString());
-    m_scene->setKernels(kernels);
-    if (!m_hadKernels && !kernels.isEmpty()) {
-        CameraMotion(m_scene->renderer()).lookFrom(ViewCommands::Direction::Isometric);
+    const QVector<double> sides = MeshManager::instance()->getBoundingBox({});
+    std::optional<Box> box;
+    if (sides.size() == 6) {
+        std::copy(sides.begin(), sides.end(), box.emplace().begin());
     }
-    m_hadKernels = !kernels.isEmpty();
+    CameraMotion camera(m_scene->renderer());
+    if (box && !m_box) {
+        camera.lookFrom(ViewCommands::Direction::Isometric);
+    } else if (box && needsAim(boxChange(*m_box, *box), camera.seen(*m_box), camera.seen(*box))) {
+        camera.fit();
+    } else {
+        m_scene->renderer().ResetCameraClippingRange(); // what is shown may be nearer or farther now
+    }
+    m_box = box;
+}
+
+// Several samples of each pixel take twice the time, and triangles as small as pixels look no smoother for them.
+void View3D::chooseSmoothing()
+{
+    const int samples = m_scene->cellCount() > mostSmoothed ? 0 : m_samples;
+    if (samples != m_canvas->renderWindow()->GetMultiSamples()) {
+        m_canvas->renderWindow()->SetMultiSamples(samples);
+    }
 }
 
 void View3D::saveScreenshot(const QString& path)

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <workbench/view/CameraAim.h>
+
 #include <basemodule/SelectModel.h>
 
 #include <QPoint>
@@ -10,6 +12,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 class QKeyEvent;
 class QMouseEvent;
@@ -52,7 +55,8 @@ private:
     void listenToCommands();
     void note(unsigned changes);
     void update3D();
-    void takeKernels();
+    void aimCamera();
+    void chooseSmoothing();
 
     bool handle(QEvent* event);
     void press(QMouseEvent* event);
@@ -76,7 +80,10 @@ private:
     QRubberBand* m_band;
     QTimer m_timer;
     unsigned m_changes = 0;
-    bool m_hadKernels = false;
+    /// Of a pixel, as the graphics came with them.
+    int m_samples = 0;
+    /// That of the meshes that are shown; none without meshes.
+    std::optional<Box> m_box;
 
     QPoint m_pressed;
     QPoint m_last;

@@ -60,6 +60,14 @@ void paintArrow(QPainter& painter, const QPointF& from, const QPointF& to)
     }
 }
 
+void paintAxes(QPainter& painter)
+{
+    const QPointF origin(12, 20);
+    paintArrow(painter, origin, QPointF(12, 4));
+    paintArrow(painter, origin, QPointF(28, 22));
+    paintArrow(painter, origin, QPointF(4, 28));
+}
+
 void paintPage(QPainter& painter)
 {
     painter.setBrush(Qt::white);
@@ -201,6 +209,8 @@ void paint(QPainter& painter, IconName name)
     case IconName::Groups:
         paintCube(painter, fill, fill, fill);
         return paintText(painter, QRectF(5, 12, 14, 15), "G");
+    case IconName::Axes:
+        return paintAxes(painter);
     case IconName::Fit:
         return paintFit(painter);
     case IconName::Isometric:

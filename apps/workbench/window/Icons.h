@@ -24,6 +24,7 @@ enum class IconName : int
     Nodes,
     Elements,
     Groups,
+    Axes,
     Fit,
     Isometric,
     Front,

@@ -26,9 +26,10 @@ Language* Language::instance()
     return language;
 }
 
-void Language::restore()
+bool Language::restore(QStringList& arguments)
 {
     m_translations.setLanguage(QSettings().value(key()).toString());
+    return m_translations.choose(arguments);
 }
 
 void Language::choose(const QString& word)

@@ -6,6 +6,7 @@
 #include <console/Translations.h>
 
 #include <QString>
+#include <QStringList>
 
 namespace Workbench {
 
@@ -17,8 +18,10 @@ public:
     /// something else is chosen.
     static Language* instance();
 
-    /// Speaks the language of the user's settings.
-    void restore();
+    /// Speaks the language of the user's settings, or the one that the environment variable DATAMANAGER_LANGUAGE or
+    /// "--language WORD" of a call name for this time; the last wins, and is taken out of the call. False when it is no
+    /// language.
+    bool restore(QStringList& arguments);
     /// "English" or "Chinese"; kept in the user's settings. Another word changes nothing.
     void choose(const QString& word);
 

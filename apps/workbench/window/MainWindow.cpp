@@ -41,17 +41,24 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent)
     restoreLayout();
 }
 
-MainWindow::~MainWindow() = default;
+// What has the keyboard loses it here, while the window and its views are whole and can be told.
+MainWindow::~MainWindow()
+{
+    for (QDockWidget* dock : findChildren<QDockWidget*>()) {
+        dock->hide();
+    }
+    hide();
+}
 
 void MainWindow::createDocks()
 {
     QDockWidget* tree = addDock(new ProjectTree(this), Qt::LeftDockWidgetArea);
     addDock(new PropertyTable(this), Qt::LeftDockWidgetArea, true);
-    QDockWidget* messages = addDock(new MessagePanel(this), Qt::BottomDockWidgetArea);
+    m_messages = addDock(new MessagePanel(this), Qt::BottomDockWidgetArea);
     addDock(new MaterialDock(this), Qt::RightDockWidgetArea);
     addDock(new CoordinateDock(this), Qt::RightDockWidgetArea);
     QDockWidget* quality = addDock(new QualityDock(this), Qt::RightDockWidgetArea);
-    resizeDocks({messages}, {130}, Qt::Vertical);
+    resizeDocks({m_messages}, {130}, Qt::Vertical);
     resizeDocks({tree, quality}, {300, 440}, Qt::Horizontal);
     quality->raise();
 }
@@ -97,6 +104,18 @@ void MainWindow::retranslate()
     }
     updateRecent();
     updateTitle();
+}
+
+// What went wrong is seen, even where the panel was closed.
+void MainWindow::showMessage(int type, const QString& text)
+{
+    constexpr int errorType = 2;
+    constexpr int duration = 10000;
+    statusBar()->showMessage(text, duration);
+    if (type == errorType) {
+        m_messages->show();
+        m_messages->raise();
+    }
 }
 
 void MainWindow::updateTitle()

@@ -65,25 +65,35 @@ private:
     void updateActions();
     void updateTitle();
     void updateRecent();
+    void showMessage(int type, const QString& text);
     void retranslate();
 
+    bool mayLeave();
     bool mayDiscard();
+    static QString stopsMeshing();
+    /// Both return at once, save() asking for a path where there is none; false when the user gives none.
     bool save();
     bool saveAs();
+    bool waitForSaving();
+    /// Empty when the user gives none.
+    QString askForNewFile(const QString& title, const QString& filter, const QString& suffix);
     void open();
     void openProject(const QString& path);
     void openGeometry(const QString& path);
     void mesh();
+    void nameSelection();
     void saveScreenshot();
     void restoreLayout();
 
     QList<Text> m_texts;
     QMenu* m_recentMenu = nullptr;
     QMenu* m_docksMenu = nullptr;
+    QDockWidget* m_messages = nullptr;
     QActionGroup* m_interactionModes = nullptr;
     QActionGroup* m_selectModels = nullptr;
     QAction* m_mesh = nullptr;
     QAction* m_clearSelection = nullptr;
+    QAction* m_nameSelection = nullptr;
     QList<QAction*> m_toolActions;
 };
 

@@ -7,6 +7,7 @@
 #include <workbench/mesh/MesherProcess.h>
 #include <workbench/project/Project.h>
 #include <workbench/project/RecentProjects.h>
+#include <workbench/selection/NamedSelections.h>
 #include <workbench/selection/SelectionUndo.h>
 #include <workbench/view/ViewCommands.h>
 #include <workbench/window/Icons.h>
@@ -18,7 +19,7 @@
 #include <datamanager/selection/SelectedDataManager.h>
 
 #include <QActionGroup>
-#include <QApplication>
+#include <QInputDialog>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -69,7 +70,7 @@ void MainWindow::createFileMenu()
 {
     QMenu* menu = addMenu(QT_TR_NOOP("&File"));
     QAction* create = addAction(menu, QT_TR_NOOP("&New project"), [this] {
-        if (mayDiscard()) {
+        if (mayLeave()) {
             Project::instance()->create();
         }
     });
@@ -106,6 +107,8 @@ void MainWindow::createEditMenu()
     redo->setEnabled(false);
     connect(stack, &QUndoStack::canUndoChanged, undo, &QAction::setEnabled);
     connect(stack, &QUndoStack::canRedoChanged, redo, &QAction::setEnabled);
+    m_nameSelection = addAction(menu, QT_TR_NOOP("&Name the selection…"), [this] { nameSelection(); });
+    m_nameSelection->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_G));
     m_clearSelection = addAction(menu, QT_TR_NOOP("&Clear selection"),
                                  [] { SelectedDataManager::getInstance()->clearAllSelectedTarget(); });
     m_clearSelection->setShortcut(QKeySequence(Qt::Key_Escape));
@@ -136,6 +139,7 @@ void MainWindow::createSelectMenu()
     add(m_selectModels, QT_TR_NOOP("Nodes"), BaseModule::MeshNode, IconName::Nodes, Qt::Key_3);
     add(m_selectModels, QT_TR_NOOP("Elements"), BaseModule::MeshElement, IconName::Elements, Qt::Key_4);
     add(m_selectModels, QT_TR_NOOP("Element groups"), BaseModule::MeshGroup, IconName::Groups, Qt::Key_5);
+    add(m_selectModels, QT_TR_NOOP("Coordinate axes"), BaseModule::CoordinateAxes, IconName::Axes, Qt::Key_6);
     m_toolActions << nullptr;
     connect(m_interactionModes, &QActionGroup::triggered, this, [](const QAction* action) {
         const auto mode = static_cast<BaseModule::InteractionMode>(action->data().toInt());
@@ -241,6 +245,8 @@ void MainWindow::listen()
         updateTitle();
         updateActions();
     });
+    connect(hub, &IBaseSignal::signal_showMessageType, this, &MainWindow::showMessage);
+    connect(m_recentMenu, &QMenu::aboutToShow, this, &MainWindow::updateRecent);
     connect(RecentProjects::instance(), &RecentProjects::signal_changed, this, &MainWindow::updateRecent);
     connect(MesherProcess::instance(), &MesherProcess::signal_started, this, &MainWindow::updateActions);
     connect(MesherProcess::instance(), &MesherProcess::signal_finished, this, &MainWindow::updateActions);
@@ -258,7 +264,18 @@ void MainWindow::updateActions()
         action->setChecked(action->data().toInt() == selection->getSelectModel());
     }
     m_clearSelection->setEnabled(selection->getDataCount() > 0);
+    m_nameSelection->setEnabled(NamedSelections::canName());
     m_mesh->setEnabled(!Project::instance()->geometryPath().isEmpty() && !MesherProcess::instance()->isRunning());
+}
+
+void MainWindow::nameSelection()
+{
+    bool isConfirmed = false;
+    const QString name = QInputDialog::getText(this, tr("Name the selection"), tr("Name of the set or group:"),
+                                               QLineEdit::Normal, NamedSelections::proposedName(), &isConfirmed);
+    if (isConfirmed) {
+        NamedSelections::create(name.trimmed());
+    }
 }
 
 void MainWindow::updateRecent()

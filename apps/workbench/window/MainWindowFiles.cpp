@@ -8,6 +8,9 @@
 #include <workbench/project/Project.h>
 #include <workbench/view/ViewCommands.h>
 #include <workbench/window/MeshingDialog.h>
+#include <workbench/window/TransferDialog.h>
+
+#include <basemodule/IBaseSignal.h>
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -17,6 +20,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSettings>
+#include <QTimer>
 #include <QUrl>
 
 namespace Workbench {
@@ -27,11 +31,22 @@ QString projectFilter()
     return MainWindow::tr("Projects (*.%1)").arg(Project::fileSuffix());
 }
 
+QStringList localFiles(const QMimeData& data)
+{
+    QStringList paths;
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile()) {
+            paths.append(url.toLocalFile());
+        }
+    }
+    return paths;
+}
+
 } // namespace
 
 void MainWindow::openFile(const QString& path)
 {
-    if (QFileInfo(path).suffix() == Project::fileSuffix()) {
+    if (QFileInfo(path).suffix().compare(Project::fileSuffix(), Qt::CaseInsensitive) == 0) {
         openProject(path);
     } else if (MesherProcess::isGeometry(path)) {
         openGeometry(path);
@@ -42,14 +57,15 @@ void MainWindow::openFile(const QString& path)
 
 void MainWindow::openProject(const QString& path)
 {
-    if (mayDiscard()) {
-        Project::instance()->open(path);
+    if (mayLeave()) {
+        Project::instance()->startOpening(path);
+        TransferDialog::wait(this, tr("Opening %1").arg(QFileInfo(path).fileName()));
     }
 }
 
 void MainWindow::openGeometry(const QString& path)
 {
-    if (Project::instance()->takeGeometry(path)) {
+    if (MesherProcess::instance()->mayStart() && Project::instance()->takeGeometry(path)) {
         mesh();
     }
 }
@@ -75,37 +91,77 @@ void MainWindow::open()
 
 bool MainWindow::save()
 {
-    return Project::instance()->path().isEmpty() ? saveAs() : Project::instance()->save();
+    if (Project::instance()->path().isEmpty()) {
+        return saveAs();
+    }
+    Project::instance()->startSaving(Project::instance()->path());
+    return true;
 }
 
 bool MainWindow::saveAs()
 {
-    QString path =
-        QFileDialog::getSaveFileName(this, tr("Save the project"), Project::instance()->path(), projectFilter());
-    if (path.isEmpty()) {
+    const QString path = askForNewFile(tr("Save the project"), projectFilter(), Project::fileSuffix());
+    if (!path.isEmpty()) {
+        Project::instance()->startSaving(path);
+    }
+    return !path.isEmpty();
+}
+
+QString MainWindow::askForNewFile(const QString& title, const QString& filter, const QString& suffix)
+{
+    QFileDialog dialog(this, title, Project::instance()->path(), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(suffix);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+bool MainWindow::waitForSaving()
+{
+    return TransferDialog::wait(this, tr("Saving “%1”").arg(Project::instance()->name()));
+}
+
+// Whether the open project may be left: everything is saved that is to be, and nothing runs that would be missed.
+bool MainWindow::mayLeave()
+{
+    if (Project::instance()->isSaving() && !waitForSaving()) {
         return false;
     }
-    if (QFileInfo(path).suffix() != Project::fileSuffix()) {
-        path += QLatin1Char('.') + Project::fileSuffix();
+    if (Project::instance()->isModified()) {
+        return mayDiscard();
     }
-    return Project::instance()->saveAs(path);
+    if (!MesherProcess::instance()->isRunning()) {
+        return true;
+    }
+    QMessageBox question(QMessageBox::Question, tr("Meshing is under way"), stopsMeshing(),
+                         QMessageBox::Yes | QMessageBox::Cancel, this);
+    question.setInformativeText(tr("Go on?"));
+    // The mesh may have come while the question was open.
+    return question.exec() == QMessageBox::Yes && (!Project::instance()->isModified() || mayDiscard());
+}
+
+QString MainWindow::stopsMeshing()
+{
+    return tr("The geometry is being meshed. This stops it.");
 }
 
 bool MainWindow::mayDiscard()
 {
-    if (!Project::instance()->isModified()) {
-        return true;
+    QMessageBox question(QMessageBox::Question, tr("Unsaved changes"),
+                         tr("Save the changes to “%1” first?").arg(Project::instance()->name()),
+                         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+    question.setDefaultButton(QMessageBox::Save);
+    if (MesherProcess::instance()->isRunning()) {
+        question.setInformativeText(stopsMeshing());
     }
-    const QMessageBox::StandardButton answer = QMessageBox::question(
-        this, tr("Unsaved changes"), tr("Save the changes to “%1” first?").arg(Project::instance()->name()),
-        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
-    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
+    const int answer = question.exec();
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save() && waitForSaving());
 }
 
 void MainWindow::saveScreenshot()
 {
     const QString path =
-        QFileDialog::getSaveFileName(this, tr("Save a picture of the view"), QString(), tr("Pictures (*.png *.jpg)"));
+        askForNewFile(tr("Save a picture of the view"), tr("Pictures (*.png *.jpg)"), QStringLiteral("png"));
     if (!path.isEmpty()) {
         ViewCommands::instance()->saveScreenshot(path);
     }
@@ -113,10 +169,12 @@ void MainWindow::saveScreenshot()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!mayDiscard()) {
+    if (!mayLeave()) {
         event->ignore();
         return;
     }
+    MesherProcess::instance()->cancel();
+    MeshManager::instance()->cancelLoad();
     QSettings settings;
     settings.setValue(QStringLiteral("window/geometry"), saveGeometry());
     settings.setValue(QStringLiteral("window/docks"), saveState());
@@ -125,17 +183,24 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (event->mimeData()->hasUrls()) {
+    if (!localFiles(*event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
     }
 }
 
+// Opened after the drag has ended: a question would hold up the program that it comes from.
 void MainWindow::dropEvent(QDropEvent* event)
 {
-    const QList<QUrl> urls = event->mimeData()->urls();
-    if (!urls.isEmpty() && urls.first().isLocalFile()) {
-        openFile(urls.first().toLocalFile());
+    const QStringList paths = localFiles(*event->mimeData());
+    if (paths.isEmpty()) {
+        return;
     }
+    event->acceptProposedAction();
+    if (paths.size() > 1) {
+        Q_EMIT BaseModule::IBaseSignal::getInstance()->signal_showMessageType(
+            2, tr("One file is opened at a time: of %1 only %2.").arg(paths.size()).arg(paths.first()));
+    }
+    QTimer::singleShot(0, this, [this, path = paths.first()] { openFile(path); });
 }
 
 } // namespace Workbench

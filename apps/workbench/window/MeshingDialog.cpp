@@ -7,6 +7,7 @@
 #include <workbench/project/Project.h>
 
 #include <QDialogButtonBox>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -58,7 +59,9 @@ void MeshingDialog::check()
 void MeshingDialog::accept()
 {
     if (elementSize() >= 0) {
-        MesherProcess::instance()->start(Project::instance()->geometryPath(), elementSize());
+        const Project* project = Project::instance();
+        const QString name = QFileInfo(project->geometryName()).completeBaseName();
+        MesherProcess::instance()->start(project->geometryPath(), elementSize(), {name, project->geometryOrigin()});
         QDialog::accept();
     }
 }

@@ -5,6 +5,7 @@
 
 #include <workbench/mesh/MeshManager.h>
 #include <workbench/mesh/MesherProcess.h>
+#include <workbench/project/Project.h>
 
 #include <QEvent>
 #include <QFileInfo>
@@ -12,6 +13,8 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace Workbench {
 
@@ -25,20 +28,33 @@ TaskBar::TaskBar(QWidget* parent)
     layout->addWidget(m_cancel);
     m_bar->setRange(0, 100);
     m_bar->setFixedWidth(180);
+    m_label->setObjectName(QStringLiteral("taskText"));
     m_cancel->setObjectName(QStringLiteral("cancelTask"));
-    const MeshManager* meshes = MeshManager::instance();
-    const MesherProcess* mesher = MesherProcess::instance();
-    connect(meshes, &MeshManager::signal_loadStarted, this,
-            [this](const QString& path) { begin(tr("Reading %1").arg(QFileInfo(path).fileName())); });
-    connect(meshes, &MeshManager::signal_loadProgress, m_bar, &QProgressBar::setValue);
-    connect(meshes, &MeshManager::signal_loadFinished, this, &TaskBar::end);
-    connect(mesher, &MesherProcess::signal_started, this,
-            [this](const QString& path) { begin(tr("Meshing %1").arg(QFileInfo(path).fileName())); });
-    connect(mesher, &MesherProcess::signal_progress, m_bar, &QProgressBar::setValue);
-    connect(mesher, &MesherProcess::signal_finished, this, &TaskBar::end);
     connect(m_cancel, &QToolButton::clicked, this, &TaskBar::cancel);
+    listen();
     retranslate();
-    end();
+    showLatest();
+}
+
+void TaskBar::listen()
+{
+    const auto fileName = [](const QString& path) { return QFileInfo(path).fileName(); };
+    const MeshManager* meshes = MeshManager::instance();
+    connect(meshes, &MeshManager::signal_loadStarted, this,
+            [=](const QString& path) { begin(Kind::Reading, tr("Reading %1").arg(fileName(path))); });
+    connect(meshes, &MeshManager::signal_loadProgress, this, [this](int value) { setPercent(Kind::Reading, value); });
+    connect(meshes, &MeshManager::signal_loadFinished, this, [this] { end(Kind::Reading); });
+    const MesherProcess* mesher = MesherProcess::instance();
+    connect(mesher, &MesherProcess::signal_started, this,
+            [=](const QString& path) { begin(Kind::Meshing, tr("Meshing %1").arg(fileName(path))); });
+    connect(mesher, &MesherProcess::signal_progress, this, [this](int value) { setPercent(Kind::Meshing, value); });
+    connect(mesher, &MesherProcess::signal_finished, this, [this] { end(Kind::Meshing); });
+    const Project* project = Project::instance();
+    connect(project, &Project::signal_transferStarted, this, [=](const QString& path, bool isSaving) {
+        begin(Kind::Transfer, (isSaving ? tr("Saving %1") : tr("Opening %1")).arg(fileName(path)));
+    });
+    connect(project, &Project::signal_transferProgress, this, [this](int value) { setPercent(Kind::Transfer, value); });
+    connect(project, &Project::signal_transferFinished, this, [this] { end(Kind::Transfer); });
 }
 
 void TaskBar::changeEvent(QEvent* event)
@@ -54,22 +70,47 @@ void TaskBar::retranslate()
     m_cancel->setText(tr("Cancel"));
 }
 
-void TaskBar::begin(const QString& text)
+void TaskBar::begin(Kind kind, const QString& text)
 {
-    m_label->setText(text);
-    m_bar->setValue(0);
-    show();
+    end(kind);
+    m_tasks.append({kind, text, 0});
+    showLatest();
 }
 
-void TaskBar::end()
+void TaskBar::setPercent(Kind kind, int percent)
 {
-    hide();
+    for (Task& task : m_tasks) {
+        task.percent = task.kind == kind ? percent : task.percent;
+    }
+    showLatest();
+}
+
+void TaskBar::end(Kind kind)
+{
+    const auto isEnded = [kind](const Task& task) { return task.kind == kind; };
+    m_tasks.erase(std::remove_if(m_tasks.begin(), m_tasks.end(), isEnded), m_tasks.end());
+    showLatest();
+}
+
+void TaskBar::showLatest()
+{
+    setVisible(!m_tasks.isEmpty());
+    if (!m_tasks.isEmpty()) {
+        m_label->setText(m_tasks.last().text);
+        m_bar->setValue(m_tasks.last().percent);
+    }
 }
 
 void TaskBar::cancel()
 {
-    MesherProcess::instance()->cancel();
-    MeshManager::instance()->cancelLoad();
+    switch (m_tasks.isEmpty() ? Kind::Reading : m_tasks.last().kind) {
+    case Kind::Meshing:
+        return MesherProcess::instance()->cancel();
+    case Kind::Reading:
+        return MeshManager::instance()->cancelLoad();
+    case Kind::Transfer:
+        return Project::instance()->cancelTransfer();
+    }
 }
 
 } // namespace Workbench

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QList>
+#include <QString>
 #include <QWidget>
 
 class QLabel;
@@ -11,7 +13,8 @@ class QToolButton;
 
 namespace Workbench {
 
-/// Shows what works in the background, how far it is, and a button that cancels it.
+/// Shows what works in the background, how far it is, and a button that cancels it. Of several it shows the one that
+/// began last.
 class TaskBar : public QWidget
 {
     Q_OBJECT
@@ -23,11 +26,29 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void retranslate();
-    void begin(const QString& text);
-    void end();
-    static void cancel();
+    enum class Kind : int
+    {
+        Meshing,
+        Reading,
+        Transfer
+    };
 
+    struct Task
+    {
+        Kind kind;
+        QString text;
+        int percent;
+    };
+
+    void listen();
+    void retranslate();
+    void begin(Kind kind, const QString& text);
+    void setPercent(Kind kind, int percent);
+    void end(Kind kind);
+    void showLatest();
+    void cancel();
+
+    QList<Task> m_tasks;
     QLabel* m_label;
     QProgressBar* m_bar;
     QToolButton* m_cancel;

@@ -16,6 +16,8 @@
 #include <datamodel/SelectedDataBase.h>
 
 #include <QItemSelectionModel>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTreeView>
 
 /// A dock over new libraries, for the time of one test function: it stands where the process's own manager would.
@@ -27,6 +29,8 @@ public:
 
     MaterialViewFixture()
     {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
+        QCoreApplication::setOrganizationName(QStringLiteral("DataManager"));
         Manager::m_instance = &m_libraries.manager();
         Workbench::GeometryManager::instance()->clear();
         DataManager::SelectedDataManager::getInstance()->clearAllSelectedTarget();
@@ -96,6 +100,7 @@ public:
     }
 
 private:
+    QTemporaryDir m_settings;
     MaterialFixture m_libraries;
     std::unique_ptr<Workbench::MaterialDock> m_dock;
 };

@@ -104,6 +104,10 @@ void tst_KernelMesh::skin()
     QCOMPARE(static_cast<int>(reading.mesh->faces.size()), faces);
     QCOMPARE(reading.mesh->box, (std::array<double, 6>{0, 1, 0, 1, 0, 1}));
     QCOMPARE(reading.mesh->elementNumbers.number(1), 15);
+    // The corners of the first that are not its first make its third side, the first three of the second its first.
+    QCOMPARE(static_cast<int>(reading.mesh->neighbours.size()), 2);
+    QCOMPARE(reading.mesh->neighbours[0], (std::array<int, 4>{-1, -1, 1, -1}));
+    QCOMPARE(reading.mesh->neighbours[1], (std::array<int, 4>{0, -1, -1, -1}));
 }
 
 void tst_KernelMesh::facesLookOutside()

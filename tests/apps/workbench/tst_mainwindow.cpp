@@ -4,6 +4,7 @@
 #include "Samples.h"
 #include "WindowTest.h"
 
+#include <workbench/coordinates/CoordinateSystems.h>
 #include <workbench/geometry/GeometryManager.h>
 #include <workbench/mesh/MesherProcess.h>
 #include <workbench/project/Project.h>
@@ -301,6 +302,13 @@ void tst_MainWindow::propertiesOfTheSelection_data()
     QTest::newRow("face") << static_cast<int>(BaseModule::GeometryFace) << 4 << QStringLiteral("triangles=504");
     QTest::newRow("node") << static_cast<int>(BaseModule::MeshNode) << 1 << QStringLiteral("node=1");
     QTest::newRow("group") << static_cast<int>(BaseModule::MeshGroup) << 2 << QStringLiteral("elements=928");
+    // The first tetrahedron of the file, "793 4 2 1 1 771 765 754 1701".
+    const int element = static_cast<int>(BaseModule::MeshElement);
+    QTest::newRow("element") << element << 793 << QStringLiteral("nodes=771, 765, 754, 1701");
+    QTest::newRow("element's group") << element << 793 << QStringLiteral("physical group=1");
+    const int axes = static_cast<int>(BaseModule::CoordinateAxes);
+    QTest::newRow("axes") << axes << -1 << QStringLiteral("Name=corner");
+    QTest::newRow("place of axes") << axes << -1 << QStringLiteral("Coordinate=(1,2,3)");
 }
 
 void tst_MainWindow::propertiesOfTheSelection()
@@ -310,7 +318,9 @@ void tst_MainWindow::propertiesOfTheSelection()
     QFETCH(QString, row);
     SelectedDataManager* selection = SelectedDataManager::getInstance();
     if (model >= 0) {
-        const int first = model < 6 ? 1 : MeshManager::instance()->findKernels(QString()).first();
+        CoordinateSystems::instance()->create(0, {QStringLiteral("corner"), BaseModule::Cartesian, {1, 2, 3}, {}});
+        const bool isOfMesh = model > 6 && model != BaseModule::CoordinateAxes;
+        const int first = isOfMesh ? MeshManager::instance()->findKernels(QString()).first() : 1;
         selection->setSelectModelInMainWindow(static_cast<BaseModule::SelectModel>(model));
         selection->clickViewObject(first, second);
         QCOMPARE(selection->getDataCount(), 1);

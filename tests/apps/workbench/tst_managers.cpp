@@ -39,6 +39,10 @@ private Q_SLOTS:
     void damagedFilesChangeNothing();
     void componentsStandForVolumes();
     void meshingAgainKeepsMaterials();
+    void unrelatedMeshInheritsNothing();
+    void volumesAreFoundByGroupNames();
+    void renamedGroupsRenameTheirVolumes();
+    void earlierProjectsKeepTheirVolumes();
     void deletedMaterialIsDropped();
     void hiddenCannotBePicked();
     void geometrySets();
@@ -293,6 +297,99 @@ void tst_Managers::meshingAgainKeepsMaterials()
     // A mesh of something else drops what it does not hold.
     openMesh(samplePath("bearing-housing.msh"));
     QCOMPARE(geometry->getComponentCount(), 3);
+}
+
+// A box of two volume groups with these numbers and names; no name for an empty one.
+static QByteArray twoVolumes(int first, const QByteArray& firstName, int second, const QByteArray& secondName)
+{
+    QByteArrayList names;
+    for (const auto& [tag, name] : {std::pair(first, firstName), std::pair(second, secondName)}) {
+        if (!name.isEmpty()) {
+            names.append("3 " + QByteArray::number(tag) + " \"" + name + "\"\n");
+        }
+    }
+    const auto element = [](int number, int tag, const QByteArray& nodes) {
+        return QByteArray::number(number) + " 4 2 " + QByteArray::number(tag) + " 1 " + nodes + "\n";
+    };
+    return "$MeshFormat\n2.2 0 8\n$EndMeshFormat\n$PhysicalNames\n" + QByteArray::number(names.size()) + "\n" +
+           names.join() +
+           "$EndPhysicalNames\n$Nodes\n5\n1 0 0 0\n2 1 0 0\n3 0 1 0\n4 0 0 1\n5 1 1 2\n$EndNodes\n"
+           "$Elements\n2\n" +
+           element(1, first, "1 2 3 4") + element(2, second, "2 3 4 5") + "$EndElements\n";
+}
+
+void tst_Managers::unrelatedMeshInheritsNothing()
+{
+    GeometryManager* geometry = GeometryManager::instance();
+    const QString a = writeFile(m_directory.filePath(QStringLiteral("a.msh")), twoVolumes(1, "core", 2, "shell"));
+    const QString b = writeFile(m_directory.filePath(QStringLiteral("b.msh")), twoVolumes(1, "core", 2, "coil"));
+    QVERIFY(openMesh(a) > 0);
+    QVERIFY(geometry->renameComponent(2, QStringLiteral("my shell")));
+    geometry->setMaterialID({1, 2}, 5);
+    QSignalSpy removed(geometry, &GeometryManager::signal_componentListRemoved);
+    QVERIFY(openMesh(b) > 0);
+    QCOMPARE(removed.size(), 1);
+    QCOMPARE(removed.first().at(0).value<QList<int>>(), (QList<int>{1, 2}));
+    QCOMPARE(geometry->findComponents(QString()), (QList<int>{3, 4}));
+    QCOMPARE(geometry->getComponentName(3), QStringLiteral("core"));
+    QCOMPARE(geometry->getComponentName(4), QStringLiteral("coil"));
+    QCOMPARE(geometry->findComponentsOfMaterial(5), QList<int>());
+    // The same file anew, with what a mesher made of it meanwhile, keeps them.
+    geometry->setMaterialID({4}, 6);
+    writeFile(b, twoVolumes(1, "core", 2, "coil"));
+    QVERIFY(openMesh(b) > 0);
+    QCOMPARE(geometry->findComponents(QString()), (QList<int>{3, 4}));
+    QCOMPARE(geometry->findComponentsOfMaterial(6), QList<int>{4});
+}
+
+void tst_Managers::volumesAreFoundByGroupNames()
+{
+    GeometryManager* geometry = GeometryManager::instance();
+    const QString path = writeFile(m_directory.filePath(QStringLiteral("swap.msh")), twoVolumes(1, "in", 2, "out"));
+    QVERIFY(openMesh(path) > 0);
+    geometry->setMaterialID({1}, 5);
+    QVERIFY(geometry->renameComponent(1, QStringLiteral("mine")));
+    writeFile(path, twoVolumes(1, "out", 2, "in"));
+    const int kernel = openMesh(path);
+    QCOMPARE(geometry->findComponents(QString()), (QList<int>{1, 2}));
+    QCOMPARE(geometry->getVolumeTag(1), 2);
+    QCOMPARE(geometry->componentOfVolume(kernel, 1), 2);
+    QCOMPARE(geometry->getComponentName(1), QStringLiteral("mine"));
+    QCOMPARE(geometry->getMaterialID(1), 5);
+    QCOMPARE(geometry->getComponentName(2), QStringLiteral("out"));
+}
+
+void tst_Managers::renamedGroupsRenameTheirVolumes()
+{
+    GeometryManager* geometry = GeometryManager::instance();
+    const QString path = writeFile(m_directory.filePath(QStringLiteral("rename.msh")), twoVolumes(1, "in", 2, "out"));
+    QVERIFY(openMesh(path) > 0);
+    geometry->setMaterialID({1, 2}, 5);
+    QVERIFY(geometry->renameComponent(2, QStringLiteral("mine")));
+    writeFile(path, twoVolumes(1, "inner", 2, "outer"));
+    QVERIFY(openMesh(path) > 0);
+    QCOMPARE(geometry->findComponents(QString()), (QList<int>{1, 2}));
+    QCOMPARE(geometry->getComponentName(1), QStringLiteral("inner"));
+    QCOMPARE(geometry->getComponentName(2), QStringLiteral("mine"));
+    QCOMPARE(geometry->findComponentsOfMaterial(5), (QList<int>{1, 2}));
+    // Groups without names are known by their numbers.
+    writeFile(path, twoVolumes(1, "", 2, ""));
+    QVERIFY(openMesh(path) > 0);
+    QCOMPARE(geometry->findComponents(QString()), (QList<int>{1, 2}));
+    QCOMPARE(geometry->getComponentName(1), QStringLiteral("volume 1"));
+}
+
+// Their files do not tell where volumes come from.
+void tst_Managers::earlierProjectsKeepTheirVolumes()
+{
+    GeometryManager* geometry = GeometryManager::instance();
+    const QString path = m_directory.filePath(QStringLiteral("earlier.json"));
+    writeFile(path, R"({"components": [{"id": 2, "name": "named", "material": 3, "volumeGroup": 1}], "sets": []})");
+    QVERIFY(geometry->load(path));
+    QVERIFY(openMesh(samplePath("plate-with-hole.msh")) > 0);
+    QCOMPARE(geometry->findComponents(QString()), QList<int>{2});
+    QCOMPARE(geometry->getComponentName(2), QStringLiteral("named"));
+    QCOMPARE(geometry->getMaterialID(2), 3);
 }
 
 void tst_Managers::deletedMaterialIsDropped()

@@ -219,6 +219,14 @@ void tst_MaterialDialog::refusesNumbers_data()
     QTest::addColumn<QString>("reason");
     QTest::newRow("comma")
         << text("1,5") << text("'1,5' has a comma. Write the decimal mark as a point, and thousands without a mark.");
+    QTest::newRow("wide comma")
+        << text("1，5") << text("'1，5' has a comma. Write the decimal mark as a point, and thousands without a mark.");
+    QTest::newRow("thousands") << text("1.234,5")
+                               << text(
+                                      "'1.234,5' has a comma. Write the decimal mark as a point, and thousands without "
+                                      "a mark.");
+    QTest::newRow("beyond 1.8e308") << text("1.8e308")
+                                    << text("'1.8e308' is too large: the largest number is about 1.8e308.");
     QTest::newRow("empty") << QString() << text("A number is missing.");
     QTest::newRow("word") << text("five") << text("'five' is not a decimal number such as 0.5 or 1e-12.");
     QTest::newRow("infinite") << text("inf") << text("'inf' is not a finite number.");
@@ -265,6 +273,8 @@ void tst_MaterialDialog::keepsNumbers_data()
         row("-0.0", -0.0, "-0");
         row("1e-12", 1e-12, "1e-12");
         row("58000000", 5.8e7, "5.8e+07");
+        row("1e308", 1e308, "1e+308");
+        row("-1.7976931348623157e308", -std::numeric_limits<double>::max(), "-1.7976931348623157e+308");
         row("5e-324", std::numeric_limits<double>::denorm_min(), "5e-324");
         row("1234567.891", 1234567.891, "1234567.891");
         row(" +.5 ", 0.5, "0.5");

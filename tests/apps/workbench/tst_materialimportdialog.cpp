@@ -40,6 +40,7 @@ private Q_SLOTS:
     void copiesNewOnes();
     void replacesChangedOnes();
     void copiesTheOtherWay();
+    void comparesTheOtherWay();
     void cancels();
     void copiesNothing();
 
@@ -138,6 +139,25 @@ void tst_MaterialImportDialog::copiesTheOtherWay()
     QCOMPARE(m_fixture->libraries().software(),
              text("1:New 2:Same 3:Changed 4:Gone(deleted) 5:Free Space 6:Own next 7"));
     QVERIFY(contentOf(MaterialFixture::softwarePath()).contains("\"Own\""));
+}
+
+void tst_MaterialImportDialog::comparesTheOtherWay()
+{
+    m_fixture->libraries().createProject(text("自由空间"));
+    QWidget& dialog = open("importFromProject");
+    QTreeWidget& list = part<QTreeWidget>(dialog, "comparisons");
+    QCOMPARE(rows(list),
+             QStringList({text("[ ] Changed  变: changed"), text("  chineseName: 中Changed -> 变"),
+                          text("  property1.components[4]: 1 -> 0.1"), text("( ) Same  中Same: same"),
+                          text("[x] Own  中Own: new"), text("( ) 自由空间  中自由空间: refused: reserved name")}));
+    list.topLevelItem(0)->setCheckState(0, Qt::Checked);
+    press(dialog, QDialogButtonBox::Ok);
+    finishClosing();
+    QCOMPARE(m_fixture->libraries().software(),
+             text("1:New 2:Same 3:Changed 4:Gone(deleted) 5:Free Space 6:Own next 7"));
+    const auto changed = m_fixture->libraries().manager().getSoftwareMatByID(3);
+    QCOMPARE(changed->chineseName, text("变"));
+    QCOMPARE(changed->property1->components.at(4), 0.1);
 }
 
 void tst_MaterialImportDialog::cancels()

@@ -7,7 +7,10 @@
 #include <workbench/mesh/MesherProcess.h>
 #include <workbench/project/Project.h>
 
+#include <QProcess>
 #include <QTemporaryDir>
+
+#include <cmath>
 
 using namespace Workbench;
 
@@ -23,6 +26,13 @@ private Q_SLOTS:
     void geometryNames();
     void meshes();
     void smallerElementsOnDemand();
+    void meshesOtherFormats_data();
+    void meshesOtherFormats();
+    void meshesUnderOddNames();
+    void failureKeepsThePredictorsMesh_data();
+    void failureKeepsThePredictorsMesh();
+    void endsWhatTheMesherStarted();
+    void endsWithTheProgram();
     void tellsErrorsOfTheGeometry();
     void tellsWhenMissing();
     void tellsACrash();
@@ -117,6 +127,150 @@ void tst_MesherProcess::smallerElementsOnDemand()
         counts.append(MeshManager::instance()->getElementCount(loaded.last().at(0).toInt()));
     }
     QVERIFY2(counts[1] > 8 * counts[0], qPrintable(QStringLiteral("%1, %2").arg(counts[0]).arg(counts[1])));
+}
+
+void tst_MesherProcess::meshesOtherFormats_data()
+{
+    QTest::addColumn<QString>("suffix");
+    for (const char* suffix : {"brep", "step", "stp"}) {
+        QTest::newRow(suffix) << QString::fromLatin1(suffix);
+    }
+}
+
+// A plate of 2 by 1 by 0.5 with a round hole, which the mesher's own kernel writes in the format of a CAD program.
+void tst_MesherProcess::meshesOtherFormats()
+{
+    QFETCH(QString, suffix);
+    const QString source = writeFile(m_directory.filePath(QStringLiteral("plate.geo")), R"(
+SetFactory("OpenCASCADE");
+Box(1) = {0, 0, 0, 2, 1, 0.5};
+Cylinder(2) = {1, 0.5, 0, 0, 0, 0.5, 0.2};
+BooleanDifference{ Volume{1}; Delete; }{ Volume{2}; Delete; }
+)");
+    const QString geometry = m_directory.filePath(QStringLiteral("plate.") + suffix);
+    QProcess mesher;
+    mesher.start(QStringLiteral("gmsh"), {source, QStringLiteral("-0"), QStringLiteral("-o"), geometry});
+    QVERIFY(mesher.waitForFinished() && QFileInfo(geometry).size() > 0);
+    QSignalSpy loaded(MeshManager::instance(), &MeshManager::signal_loadFinished);
+    Messages messages;
+    QCOMPARE(run(geometry, 0.2), 1);
+    QVERIFY(!loaded.isEmpty() || loaded.wait(60000));
+    QVERIFY2(messages.list.isEmpty(), qPrintable(messages.list.join(QLatin1Char('\n'))));
+    const QSharedPointer<const KernelMesh> mesh = MeshManager::instance()->mesh(loaded.last().at(0).toInt());
+    QVERIFY(mesh);
+    const std::array<double, 6> box{0, 2, 0, 1, 0, 0.5};
+    for (std::size_t i = 0; i < box.size(); ++i) {
+        QVERIFY2(std::abs(mesh->box[i] - box[i]) < 1e-6, qPrintable(QString::number(mesh->box[i])));
+    }
+    // The hole is a prism of chords: its mesh is larger than the plate, and smaller than the block.
+    double volume = 0;
+    for (int place = 0; place < mesh->report.elementCount(); ++place) {
+        const std::array<int, 4>& corners = mesh->report.corners(place);
+        const std::array<double, 3>& o = mesh->report.node(corners[0]);
+        std::array<std::array<double, 3>, 3> e{};
+        for (std::size_t i = 0; i < 3; ++i) {
+            const std::array<double, 3>& p = mesh->report.node(corners[i + 1]);
+            e[i] = {p[0] - o[0], p[1] - o[1], p[2] - o[2]};
+        }
+        volume += std::abs(e[0][0] * (e[1][1] * e[2][2] - e[1][2] * e[2][1]) +
+                           e[0][1] * (e[1][2] * e[2][0] - e[1][0] * e[2][2]) +
+                           e[0][2] * (e[1][0] * e[2][1] - e[1][1] * e[2][0])) /
+                  6;
+    }
+    QVERIFY2(volume > 1 - 0.02 * M_PI && volume < 0.97, qPrintable(QString::number(volume)));
+}
+
+void tst_MesherProcess::meshesUnderOddNames()
+{
+    const QString name = QString::fromUtf8("a box %1 — 盒.geo");
+    const QString geometry =
+        writeFile(m_directory.filePath(name), "SetFactory(\"OpenCASCADE\");\nBox(1) = {0, 0, 0, 1, 1, 1};\n");
+    QSignalSpy loaded(MeshManager::instance(), &MeshManager::signal_loadFinished);
+    QCOMPARE(run(geometry), 1);
+    QVERIFY(!loaded.isEmpty() || loaded.wait(60000));
+    QCOMPARE(MeshManager::instance()->getKernelName(loaded.last().at(0).toInt()), QString::fromUtf8("a box %1 — 盒"));
+}
+
+void tst_MesherProcess::failureKeepsThePredictorsMesh_data()
+{
+    QTest::addColumn<QByteArray>("commands");
+    // The sixth argument is where the mesh goes.
+    QTest::newRow("crash") << QByteArray("echo half > \"$6\"; kill -SEGV $$");
+    QTest::newRow("error") << QByteArray("echo half > \"$6\"; echo 'Error   : no'; exit 1");
+    QTest::newRow("cancelled") << QByteArray("echo half > \"$6\"; exec sleep 600");
+}
+
+void tst_MesherProcess::failureKeepsThePredictorsMesh()
+{
+    QFETCH(QByteArray, commands);
+    QVERIFY(openMesh(samplePath("slivers.msh")) > 0);
+    QFile mesh(MesherProcess::outputPath());
+    QVERIFY(mesh.open(QIODevice::ReadOnly));
+    const QByteArray before = mesh.readAll();
+    mesh.close();
+    const QString unfinished = MesherProcess::outputPath() + QStringLiteral(".unfinished");
+    script(commands);
+    MesherProcess* mesher = MesherProcess::instance();
+    QVERIFY(mesher->start(samplePath("slivers.geo")));
+    if (commands.contains("sleep")) {
+        QTRY_VERIFY(QFileInfo(unfinished).size() > 0);
+        mesher->cancel();
+    }
+    QTRY_VERIFY(!mesher->isRunning());
+    QVERIFY(mesh.open(QIODevice::ReadOnly));
+    QCOMPARE(mesh.readAll(), before);
+    QCOMPARE(QFileInfo(unfinished).exists(), false);
+}
+
+// Whether there is a process of that number that is not only waiting for its parent to look at it.
+static bool isAlive(const QString& number)
+{
+    QFile status(QStringLiteral("/proc/%1/stat").arg(number));
+    return status.open(QIODevice::ReadOnly) &&
+           QString::fromLatin1(status.readAll()).section(QLatin1String(") "), -1).at(0) != QLatin1Char('Z');
+}
+
+void tst_MesherProcess::endsWhatTheMesherStarted()
+{
+    const QString numbers = m_directory.filePath(QStringLiteral("numbers"));
+    script("sleep 600 &\necho $$ $! > '" + QFile::encodeName(numbers) + "'\nwait");
+    MesherProcess* mesher = MesherProcess::instance();
+    QVERIFY(mesher->start(samplePath("slivers.geo")));
+    QTRY_VERIFY(QFileInfo(numbers).size() > 0);
+    QFile file(numbers);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QStringList processes = QString::fromLatin1(file.readAll()).trimmed().split(QLatin1Char(' '));
+    QCOMPARE(processes.size(), 2);
+    QVERIFY(isAlive(processes[0]) && isAlive(processes[1]));
+    mesher->cancel();
+    QTRY_VERIFY(!isAlive(processes[0]) && !isAlive(processes[1]));
+}
+
+// Even when the program is killed: this function runs a second time in a program of its own.
+void tst_MesherProcess::endsWithTheProgram()
+{
+    if (qEnvironmentVariableIsSet("MESHER_FOREVER")) {
+        qputenv("WORKBENCH_GMSH", qgetenv("MESHER_FOREVER"));
+        QVERIFY(MesherProcess::instance()->start(samplePath("slivers.geo")));
+        QTest::qWait(600000);
+        return;
+    }
+    const QString number = m_directory.filePath(QStringLiteral("number"));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("MESHER_FOREVER"),
+                       script("echo $$ > '" + QFile::encodeName(number) + "'\nexec sleep 600"));
+    environment.insert(QStringLiteral("TMPDIR"), m_directory.path());
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(QCoreApplication::applicationFilePath(), {QStringLiteral("endsWithTheProgram")});
+    QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(number).size() > 0, 60000);
+    QFile file(number);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString child = QString::fromLatin1(file.readAll()).trimmed();
+    QVERIFY(isAlive(child));
+    program.kill();
+    QVERIFY(program.waitForFinished());
+    QTRY_VERIFY(!isAlive(child));
 }
 
 void tst_MesherProcess::tellsErrorsOfTheGeometry()

@@ -188,7 +188,7 @@ void tst_QualityDock::isEmptyWithoutMesh()
 
 void tst_QualityDock::choosesTheMetric()
 {
-    auto* choice = m_dock->findChild<QComboBox*>();
+    auto* choice = m_dock->findChild<QComboBox*>(QStringLiteral("metric"));
     const MeshDisplay* display = MeshDisplay::instance();
     QCOMPARE(choice->count(), MeshQualityReport::metricCount + 1);
     QCOMPARE(choice->currentText(), QStringLiteral("ScaledJacobian"));
@@ -486,7 +486,7 @@ void tst_QualityDock::followsTheLanguage()
     Shouting translator;
     QApplication::installTranslator(&translator);
     QTRY_COMPARE(m_dock->windowTitle(), QStringLiteral("QUALITY"));
-    QCOMPARE(m_dock->findChild<QComboBox*>()->itemText(0), QStringLiteral("COLOUR BY FACE"));
+    QCOMPARE(m_dock->findChild<QComboBox*>(QStringLiteral("metric"))->itemText(0), QStringLiteral("COLOUR BY FACE"));
     QCOMPARE(m_dock->findChild<QTabWidget*>()->tabText(1), QStringLiteral("REGIONS"));
     QCOMPARE(table("regions")->horizontalHeaderItem(0)->text(), QStringLiteral("REGION"));
     QCOMPARE(table("worst")->horizontalHeaderItem(2)->text(), QStringLiteral("VALUE"));

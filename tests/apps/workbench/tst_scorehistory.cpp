@@ -121,7 +121,9 @@ void tst_ScoreHistory::modelThatCannotBeUsed_data()
     QTest::newRow("no model") << samplePath("slivers.geo") << QString();
     QTest::newRow("another input") << models + QStringLiteral("other-input-name.onnx")
                                    << QStringLiteral("onnx::Gemm_0");
-    QTest::newRow("fails when run") << models + QStringLiteral("empty-when-run.onnx") << QString();
+    QTest::newRow("another shape") << models + QStringLiteral("five-inputs.onnx") << QStringLiteral("[1, 5]");
+    QTest::newRow("another type") << models + QStringLiteral("double-input.onnx") << QStringLiteral("double");
+    QTest::newRow("empty when run") << models + QStringLiteral("empty-when-run.onnx") << QString();
 }
 
 void tst_ScoreHistory::modelThatCannotBeUsed()

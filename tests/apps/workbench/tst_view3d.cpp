@@ -300,7 +300,10 @@ void tst_View3D::highlightFollowsTheHub()
     const auto isSame = [&] {
         for (int model = 0; model <= 10; ++model) {
             const auto pairs = selection->getSelectedDataBySelectedModel(static_cast<BaseModule::SelectModel>(model));
-            if (state.items(model) != QSet<QPair<int, int>>(pairs.begin(), pairs.end())) {
+            const ItemSet& items = state.items(model);
+            const auto isThere = [&items](const QPair<int, int>& pair) { return items.contains(pair); };
+            const QSet<QPair<int, int>> once(pairs.begin(), pairs.end());
+            if (static_cast<int>(items.count()) != once.size() || !std::all_of(once.begin(), once.end(), isThere)) {
                 return false;
             }
         }

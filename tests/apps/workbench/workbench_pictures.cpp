@@ -44,7 +44,9 @@ public:
 
     bool take(QWidget& window, const QString& name)
     {
-        QTest::qWait(1500); // the window may be slow to draw
+        for (int turn = 0; turn < 5; ++turn) {
+            QTest::qWait(300); // what one turn of a slow machine has begun the next ones finish
+        }
         const QPixmap picture = window.screen()->grabWindow(0, window.x(), window.y(), window.width(), window.height());
         return picture.toImage().scaledToWidth(1100, Qt::SmoothTransformation).save(m_directory + name);
     }

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#pragma once
+
+#include <QFile>
+#include <QString>
+
+#include <memory>
+
+namespace Workbench {
+
+/// New content for a file, of any size, that takes the file's place only when all of it is on the disk: a crash, a full
+/// disk or a power cut leaves the old content or the new one, whole.
+///
+/// Meanwhile it stands in a hidden file beside the target, which is locked. One that a killed process left behind is
+/// known by its free lock; the next replacement of the same target, or removeAbandoned(), removes it.
+class ReplacementFile
+{
+public:
+    /// Links are followed: the file that `path` leads to is the target.
+    explicit ReplacementFile(const QString& path);
+    /// Removes what was not put in place.
+    ~ReplacementFile();
+    ReplacementFile(const ReplacementFile&) = delete;
+    ReplacementFile& operator=(const ReplacementFile&) = delete;
+
+    /// False, with a problem(), when the target is no regular file or may not be written, or another program is
+    /// replacing it just now.
+    bool open();
+    /// Where the content goes.
+    QIODevice& device();
+    /// Puts the content in place of the target. False, with a problem() and the target as it was, when that fails.
+    bool commit();
+    /// What went wrong first, as the system says it; also of what was written to the device. Empty when nothing did.
+    QString problem() const;
+
+    static void removeAbandoned(const QString& path);
+
+private:
+    class Content;
+
+    bool fail(int systemError);
+    bool openLocked();
+    void keepPermissions();
+
+    QString m_target;
+    QString m_name;
+    std::unique_ptr<Content> m_file;
+    QString m_problem;
+    bool m_isOurs = false;
+};
+
+} // namespace Workbench

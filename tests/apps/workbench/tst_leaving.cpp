@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 DataManager contributors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "ProjectWindowTest.h"
+
+#include <workbench/window/TransferDialog.h>
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+
+using namespace Workbench;
+
+/// A project is left, for another one or with the window, while something is unsaved or under way.
+class tst_Leaving : public ProjectWindowTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { showWindow(); }
+    void init() { begin(); }
+    void cleanupTestCase() { end(); }
+
+    void closingStopsMeshing_data();
+    void closingStopsMeshing();
+    void closingSavesWhileReading();
+    void closingWaitsForSaving();
+    void closingAfterFailedSavingStays();
+    void openingIsCancelled();
+    void newProjectAsks_data();
+    void newProjectAsks();
+};
+
+void tst_Leaving::closingStopsMeshing_data()
+{
+    QTest::addColumn<bool>("isModified");
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("isClosed");
+    QTest::newRow("go on") << false << static_cast<int>(QMessageBox::Yes) << true;
+    QTest::newRow("stay") << false << static_cast<int>(QMessageBox::Cancel) << false;
+    QTest::newRow("discard") << true << static_cast<int>(QMessageBox::Discard) << true;
+    QTest::newRow("cancel") << true << static_cast<int>(QMessageBox::Cancel) << false;
+    QTest::newRow("save") << true << static_cast<int>(QMessageBox::Save) << true;
+}
+
+void tst_Leaving::closingStopsMeshing()
+{
+    QFETCH(bool, isModified);
+    QFETCH(int, button);
+    QFETCH(bool, isClosed);
+    QVERIFY(Project::instance()->saveAs(path("meshing.wbproj")));
+    if (isModified) {
+        GeometryManager::instance()->addSet(QStringLiteral("set"), {});
+    }
+    runLongMesher();
+    m_dialogs.meet<QMessageBox>([button](QMessageBox& box) {
+        QVERIFY((box.text() + box.informativeText()).contains(QStringLiteral("being meshed")));
+        QTest::mouseClick(box.button(static_cast<QMessageBox::StandardButton>(button)), Qt::LeftButton);
+    });
+    QCOMPARE(m_window->close(), isClosed);
+    QCOMPARE(m_dialogs.met(), 1);
+    QCOMPARE(MesherProcess::instance()->isRunning(), !isClosed);
+    MesherProcess::instance()->cancel();
+    QCOMPARE(Project::instance()->isModified(), isModified && button != QMessageBox::Save);
+}
+
+void tst_Leaving::closingSavesWhileReading()
+{
+    QVERIFY(Project::instance()->saveAs(path("reading.wbproj")));
+    GeometryManager::instance()->addSet(QStringLiteral("set"), {});
+    MeshManager::instance()->openMesh(samplePath("bearing-housing.msh"));
+    m_dialogs.press(QMessageBox::Save);
+    QVERIFY(m_window->close());
+    QCOMPARE(m_dialogs.met(), 1);
+    QVERIFY(Project::instance()->open(path("reading.wbproj")));
+    QVERIFY(waitForMesh());
+    QCOMPARE(MeshManager::instance()->getElementCount(1), 6811);
+    // Without changes there is nothing to ask.
+    MeshManager::instance()->openMesh(samplePath("slivers.msh"));
+    QVERIFY(m_window->close());
+    QCOMPARE(m_dialogs.met(), 1);
+    QVERIFY(waitForMesh());
+}
+
+void tst_Leaving::closingWaitsForSaving()
+{
+    makeSlow();
+    Project::instance()->startSaving(path("slow.wbproj"));
+    QVERIFY(m_window->close());
+    QVERIFY(!Project::instance()->isSaving());
+    QVERIFY(QFileInfo(path("slow.wbproj")).size() > slowSize);
+}
+
+void tst_Leaving::closingAfterFailedSavingStays()
+{
+    Project::instance()->startSaving(path("no/such/folder.wbproj"));
+    QVERIFY(!m_window->close());
+    QVERIFY(m_window->isVisible());
+    QVERIFY2(lastMessage().contains(QStringLiteral("could not be written")), qPrintable(lastMessage()));
+}
+
+void tst_Leaving::openingIsCancelled()
+{
+    makeSlow();
+    QVERIFY(Project::instance()->saveAs(path("slow.wbproj")));
+    QVERIFY(Project::instance()->create());
+    GeometryManager::instance()->addSet(QStringLiteral("kept"), {});
+    Project::instance()->startOpening(path("slow.wbproj"));
+    m_dialogs.meet<TransferDialog>([](TransferDialog& dialog) {
+        QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel), Qt::LeftButton);
+    });
+    const bool isOpened = TransferDialog::wait(m_window.get(), QStringLiteral("Opening"));
+    QCOMPARE(isOpened, m_dialogs.met() == 0); // a quick machine may be done before the dialog is shown
+    QCOMPARE(GeometryManager::instance()->getSetCount(), isOpened ? 0 : 1);
+    m_dialogs.forget();
+}
+
+void tst_Leaving::newProjectAsks_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<QStringList>("sets");
+    QTest::newRow("cancel") << static_cast<int>(QMessageBox::Cancel) << QStringList{QStringLiteral("kept")};
+    QTest::newRow("discard") << static_cast<int>(QMessageBox::Discard) << QStringList();
+}
+
+void tst_Leaving::newProjectAsks()
+{
+    QFETCH(int, button);
+    QFETCH(QStringList, sets);
+    QVERIFY(Project::instance()->saveAs(path("before.wbproj")));
+    GeometryManager::instance()->addSet(QStringLiteral("kept"), {});
+    m_dialogs.press(static_cast<QMessageBox::StandardButton>(button));
+    trigger("New project");
+    QCOMPARE(m_dialogs.met(), 1);
+    QCOMPARE(setNames(), sets);
+    QCOMPARE(Project::instance()->path(), sets.isEmpty() ? QString() : path("before.wbproj"));
+    QCOMPARE(Project::instance()->isModified(), !sets.isEmpty());
+    // Neither answer writes anything.
+    QVERIFY(Project::instance()->open(path("before.wbproj")));
+    QCOMPARE(setNames(), QStringList());
+    // Without changes nothing is asked.
+    trigger("New project");
+    QCOMPARE(m_dialogs.met(), 1);
+    QCOMPARE(Project::instance()->path(), QString());
+}
+
+WORKBENCH_TEST_MAIN(tst_Leaving)
+#include "tst_leaving.moc"
