@@ -27,6 +27,14 @@ function(datamanager_compile_settings target)
   endif()
 endfunction()
 
+# Compiles headers of others once for all sources of a target, where the build asks for it. The sources include what they
+# use all the same.
+function(datamanager_precompile target)
+  if(DATAMANAGER_PRECOMPILED_HEADERS)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()
+
 # Hidden visibility alone lets templates of the standard library out. What is exported are the namespaces of our
 # libraries, under a symbol version of this series, and nothing else.
 function(datamanager_limit_exports target)
@@ -75,8 +83,8 @@ function(datamanager_add_library target)
   set_property(GLOBAL APPEND PROPERTY DATAMANAGER_LIBRARIES ${target})
 endfunction()
 
-# Compiles every header of our libraries alone, so that each can be included first; those of the given static libraries,
-# of which the programs are made, too.
+# Compiles every header of our libraries alone, so that each can be included first; of the given static libraries, of
+# which the programs are made, those that no source of the same name includes first.
 function(datamanager_check_headers)
   get_property(libraries GLOBAL PROPERTY DATAMANAGER_LIBRARIES)
   list(APPEND libraries ${ARGN})
@@ -89,12 +97,20 @@ function(datamanager_check_headers)
     file(GLOB_RECURSE headers RELATIVE "${root}" "${directory}/*.h")
     set(sources)
     foreach(header IN LISTS headers)
+      string(REGEX REPLACE "h$" "cpp" user "${root}/${header}")
+      if(library IN_LIST ARGN AND EXISTS "${user}")
+        continue()
+      endif()
       set(source "${PROJECT_BINARY_DIR}/headers/${header}.cpp")
       file(CONFIGURE OUTPUT "${source}" CONTENT "#include <${header}>\n")
       list(APPEND sources "${source}")
     endforeach()
+    if(NOT sources)
+      continue()
+    endif()
     add_library(${library}Headers OBJECT ${sources})
     datamanager_compile_settings(${library}Headers)
+    target_compile_options(${library}Headers PRIVATE -O0 -g0 -fno-sanitize=all)
     set_target_properties(${library}Headers PROPERTIES AUTOMOC OFF)
     target_link_libraries(${library}Headers PRIVATE ${library})
     if(library STREQUAL DataManager)
