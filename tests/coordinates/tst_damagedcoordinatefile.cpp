@@ -98,6 +98,10 @@ private Q_SLOTS:
         QTest::newRow("chain of 200") << 200 << -1 << false;
         QTest::newRow("loop of 200, upwards") << 200 << -1 << true;
         QTest::newRow("loop of 1000, downwards") << 1000 << 1 << true;
+#ifdef DATAMANAGER_EXHAUSTIVE_TESTS
+        // Writes gigabytes: the file holds every system's whole chain, and is written once for each system.
+        QTest::newRow("chain of 1000") << 1000 << -1 << false;
+#endif
     }
     void readsDeepChainsAndLoops()
     {

@@ -11,7 +11,7 @@
 // KIND is software, project, example or coordinates, or plain for a file without any record; mesh can only be loaded.
 // FILESAVER_FILE_SIZE limits the size of files while saving, FILESAVER_PROJECT names another project directory, and
 // FILESAVER_MEMORY limits the address space, beyond what is in use, while loading or saving. With FILESAVER_NOBODY the
-// process gives up root's rights.
+// process gives up root's rights. FILESAVER_LOG prints the log of everything.
 
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
 #include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
@@ -47,7 +47,7 @@ bool isSaving = false;
 
 void logWhileSaving(QtMsgType, const QMessageLogContext&, const QString& line)
 {
-    if (isSaving) {
+    if (isSaving || qEnvironmentVariableIsSet("FILESAVER_LOG")) {
         std::fprintf(stderr, "%s\n", qPrintable(line));
     }
 }
