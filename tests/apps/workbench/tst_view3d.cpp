@@ -11,6 +11,7 @@
 #include <workbench/view/View3D.h>
 #include <workbench/view/ViewCommands.h>
 
+#include <basemodule/IBaseSignal.h>
 #include <basemodule/SelectModel.h>
 #include <datamanager/frame/InteractionManager.h>
 #include <datamanager/selection/SelectedDataManager.h>
@@ -18,6 +19,7 @@
 
 #include <QImage>
 #include <QLineEdit>
+#include <QSignalBlocker>
 #include <QTemporaryDir>
 #include <QVBoxLayout>
 #include <QVTKOpenGLNativeWidget.h>
@@ -49,6 +51,7 @@ private Q_SLOTS:
     void measuresInDrawMode();
     void highlightFollowsTheHub();
     void highlightIsDrawn();
+    void transparencyFollowsTheHub();
     void coloursByMetric();
     void screenshotFailure();
 
@@ -348,6 +351,26 @@ void tst_View3D::highlightIsDrawn()
     SelectedDataManager::getInstance()->setSelectModelInMainWindow(BaseModule::MeshElement);
     const int focused = pixelsNear(picture(), QColor(214, 39, 40));
     QVERIFY2(focused > 300, qPrintable(QString::number(focused)));
+}
+
+// The hub's signal alone: what the settings say of themselves is kept from the view.
+void tst_View3D::transparencyFollowsTheHub()
+{
+    MeshDisplay* display = MeshDisplay::instance();
+    const auto setUnheard = [display](double transparency) {
+        const QSignalBlocker silence(display);
+        display->setTransparency(transparency);
+    };
+    const QImage opaque = picture();
+    setUnheard(0.6);
+    QCOMPARE(picture(), opaque);
+    Q_EMIT BaseModule::IBaseSignal::getInstance()->signal_updateGeomrtryActorTransparency({});
+    const QImage transparent = picture();
+    QVERIFY(transparent != opaque);
+    setUnheard(0);
+    QCOMPARE(picture(), transparent);
+    Q_EMIT BaseModule::IBaseSignal::getInstance()->signal_updateGeomrtryActorTransparency({});
+    QCOMPARE(picture(), opaque);
 }
 
 void tst_View3D::coloursByMetric()
