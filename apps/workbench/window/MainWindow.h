@@ -55,6 +55,7 @@ private:
     void createEditMenu();
     void createSelectMenu();
     void createViewMenu();
+    void createDisplayActions(QMenu* menu);
     void createMeshMenu();
     void createSettingsMenu();
     void createToolBars();
@@ -91,6 +92,8 @@ private:
     QDockWidget* m_messages = nullptr;
     QActionGroup* m_interactionModes = nullptr;
     QActionGroup* m_selectModels = nullptr;
+    QAction* m_edges = nullptr;
+    QAction* m_transparent = nullptr;
     QAction* m_mesh = nullptr;
     QAction* m_clearSelection = nullptr;
     QAction* m_nameSelection = nullptr;

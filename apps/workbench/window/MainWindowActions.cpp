@@ -175,23 +175,25 @@ void MainWindow::createViewMenu()
     right->setIcon(icon(IconName::Right));
     top->setIcon(icon(IconName::Top));
     menu->addSeparator();
-    QAction* edges = addAction(menu, QT_TR_NOOP("&Edges"),
-                               [] { MeshDisplay::instance()->showEdges(!MeshDisplay::instance()->areEdgesShown()); });
-    edges->setCheckable(true);
-    edges->setChecked(true);
-    edges->setIcon(icon(IconName::Edges));
-    QAction* transparent = addAction(menu, QT_TR_NOOP("Tra&nsparent"), [] {
-        MeshDisplay* display = MeshDisplay::instance();
-        display->setTransparency(display->transparency() > 0 ? 0 : 0.6);
-    });
-    transparent->setCheckable(true);
-    transparent->setShortcut(QKeySequence(Qt::Key_X));
+    createDisplayActions(menu);
     QAction* screenshot = addAction(menu, QT_TR_NOOP("Save &picture…"), [this] { saveScreenshot(); });
     screenshot->setIcon(icon(IconName::Screenshot));
     menu->addSeparator();
     m_docksMenu = menu->addMenu(QString());
     m_texts.append({[this](const QString& text) { m_docksMenu->setTitle(text); }, QT_TR_NOOP("Panels")});
-    m_toolActions << fit << isometric << front << right << top << edges << nullptr << screenshot;
+    m_toolActions << fit << isometric << front << right << top << m_edges << nullptr << screenshot;
+}
+
+void MainWindow::createDisplayActions(QMenu* menu)
+{
+    MeshDisplay* display = MeshDisplay::instance();
+    m_edges = addAction(menu, QT_TR_NOOP("&Edges"), [display] { display->showEdges(!display->areEdgesShown()); });
+    m_edges->setCheckable(true);
+    m_edges->setIcon(icon(IconName::Edges));
+    m_transparent = addAction(menu, QT_TR_NOOP("Tra&nsparent"),
+                              [display] { display->setTransparency(display->transparency() > 0 ? 0 : 0.6); });
+    m_transparent->setCheckable(true);
+    m_transparent->setShortcut(QKeySequence(Qt::Key_X));
 }
 
 void MainWindow::createMeshMenu()
@@ -248,6 +250,8 @@ void MainWindow::listen()
     connect(hub, &IBaseSignal::signal_showMessageType, this, &MainWindow::showMessage);
     connect(m_recentMenu, &QMenu::aboutToShow, this, &MainWindow::updateRecent);
     connect(RecentProjects::instance(), &RecentProjects::signal_changed, this, &MainWindow::updateRecent);
+    connect(MeshDisplay::instance(), &MeshDisplay::signal_edgesChanged, this, &MainWindow::updateActions);
+    connect(MeshDisplay::instance(), &MeshDisplay::signal_transparencyChanged, this, &MainWindow::updateActions);
     connect(MesherProcess::instance(), &MesherProcess::signal_started, this, &MainWindow::updateActions);
     connect(MesherProcess::instance(), &MesherProcess::signal_finished, this, &MainWindow::updateActions);
     updateActions();
@@ -263,6 +267,8 @@ void MainWindow::updateActions()
     for (QAction* action : m_selectModels->actions()) {
         action->setChecked(action->data().toInt() == selection->getSelectModel());
     }
+    m_edges->setChecked(MeshDisplay::instance()->areEdgesShown());
+    m_transparent->setChecked(MeshDisplay::instance()->transparency() > 0);
     m_clearSelection->setEnabled(selection->getDataCount() > 0);
     m_nameSelection->setEnabled(NamedSelections::canName());
     m_mesh->setEnabled(!Project::instance()->geometryPath().isEmpty() && !MesherProcess::instance()->isRunning());
