@@ -27,7 +27,8 @@ public:
 
     /// Meshes a .geo, .step, .stp, .brep or .iges file with tetrahedra. `elementSize` is the largest edge in model
     /// units; 0 leaves it to the file. `source` is what the mesh is to be called, by default after the file. False,
-    /// with a message, when a run is under way or the mesher cannot be started.
+    /// with a message, when a run is under way or there is no mesher. One that is there but cannot be started may be
+    /// told later, by a message and signal_finished(false).
     bool start(const QString& geometryPath, double elementSize = 0, const MeshSource& source = {});
     /// False, with a message, while a run is under way.
     bool mayStart() const;

@@ -8,6 +8,7 @@
 #include <workbench/project/Project.h>
 
 #include <QProcess>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -35,6 +36,8 @@ private Q_SLOTS:
     void endsWithTheProgram();
     void tellsErrorsOfTheGeometry();
     void tellsWhenMissing();
+    void tellsWhenItCannotBeStarted();
+    void tellsWhenTheMeshCannotBeMoved();
     void tellsACrash();
     void tellsWhenNothingWasWritten();
     void cancels();
@@ -293,6 +296,56 @@ void tst_MesherProcess::tellsWhenMissing()
     QVERIFY(!MesherProcess::instance()->start(samplePath("slivers.geo")));
     QCOMPARE(messages.list.size(), 1);
     QVERIFY(messages.list.first().contains(QStringLiteral("gmsh was not found")));
+}
+
+// A program that may be executed, but what would execute it is missing.
+void tst_MesherProcess::tellsWhenItCannotBeStarted()
+{
+    const int kernel = openMesh(samplePath("slivers.msh"));
+    const QString program = script("exit 0");
+    writeFile(program, "#!/no/such/interpreter\n");
+    MesherProcess* mesher = MesherProcess::instance();
+    QSignalSpy finished(mesher, &MesherProcess::signal_finished);
+    Messages messages;
+    mesher->start(samplePath("slivers.geo"));
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(finished.last().at(0).toBool(), false);
+    QVERIFY(!mesher->isRunning());
+    QCOMPARE(messages.list.size(), 1);
+    QVERIFY2(messages.list.first().startsWith(QStringLiteral("2 The mesher could not be started: ")),
+             qPrintable(messages.list.first()));
+    QCOMPARE(MeshManager::instance()->findKernels(QString()), QList<int>{kernel});
+    // It is no run that the next one would have to wait for.
+    script("echo 'Error   : no'; exit 1");
+    QCOMPARE(run(samplePath("slivers.geo")), 0);
+    QCOMPARE(messages.list.size(), 2);
+    QVERIFY2(messages.list.last().startsWith(QStringLiteral("2 The mesher could not mesh ")),
+             qPrintable(messages.list.last()));
+}
+
+void tst_MesherProcess::tellsWhenTheMeshCannotBeMoved()
+{
+    const int kernel = openMesh(samplePath("slivers.msh"));
+    QDir directory(MesherProcess::outputPath());
+    const auto clear = qScopeGuard([&directory] { directory.removeRecursively(); });
+    QVERIFY(QFile::remove(directory.path()) && directory.mkpath(QStringLiteral("in the way")));
+    script("cp '" + QFile::encodeName(samplePath("bearing-housing.msh")) + "' \"$6\"");
+    const QString geometry = samplePath("slivers.geo");
+    Messages messages;
+    QCOMPARE(run(geometry), 0);
+    QCOMPARE(messages.list, QStringList{QStringLiteral("2 The mesh of %1 could not be moved to %2.")
+                                            .arg(geometry, MesherProcess::outputPath())});
+    QVERIFY(!QFileInfo::exists(MesherProcess::outputPath() + QStringLiteral(".unfinished")));
+    QVERIFY(directory.exists(QStringLiteral("in the way")));
+    QVERIFY(!MeshManager::instance()->isLoading());
+    QCOMPARE(MeshManager::instance()->findKernels(QString()), QList<int>{kernel});
+    QCOMPARE(MeshManager::instance()->getElementCount(kernel), 3156);
+    // The same works when nothing is in the way.
+    QVERIFY(directory.removeRecursively());
+    QSignalSpy loaded(MeshManager::instance(), &MeshManager::signal_loadFinished);
+    QCOMPARE(run(geometry), 1);
+    QVERIFY(!loaded.isEmpty() || loaded.wait(60000));
+    QCOMPARE(MeshManager::instance()->getElementCount(loaded.last().at(0).toInt()), 6811);
 }
 
 void tst_MesherProcess::tellsACrash()
