@@ -13,6 +13,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <filesystem>
+
 using BaseModule::IBaseSignal;
 
 namespace Workbench {
@@ -147,10 +149,16 @@ void MesherProcess::finish(int exitCode, QProcess::ExitStatus status)
     }
 }
 
+// Another mesh that is being read goes to the same place in the end, where it would be taken for the new one. It is of
+// no use any more: the new one is opened instead of it.
 bool MesherProcess::putInPlace()
 {
-    QFile::remove(outputPath());
-    return QFile::rename(unfinishedPath(), outputPath());
+    MeshManager::instance()->cancelLoad();
+    MeshManager::instance()->waitForLoad();
+    std::error_code error;
+    std::filesystem::rename(QFile::encodeName(unfinishedPath()).constData(),
+                            QFile::encodeName(outputPath()).constData(), error);
+    return !error;
 }
 
 QString MesherProcess::failureText(int exitCode, QProcess::ExitStatus status) const

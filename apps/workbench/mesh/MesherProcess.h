@@ -14,7 +14,7 @@ namespace Workbench {
 
 /// Runs the mesher `gmsh` as a child process on a geometry file. The mesh goes to "../temp/mesh.msh" beside the
 /// program, where the predictor reads it, and is then opened by the MeshManager; what lay there stays until the new one
-/// is complete. One run at a time, which does not outlive the program.
+/// is complete. A mesh that is being read then is given up. One run at a time, which does not outlive the program.
 ///
 /// The program is the one that the environment variable WORKBENCH_GMSH names, else the first `gmsh` of the search path.
 class MesherProcess : public QObject
@@ -60,6 +60,7 @@ private:
     static QString program();
     /// Where the mesher writes.
     static QString unfinishedPath();
+    /// Gives up a reading under way, too.
     static bool putInPlace();
     static void showError(const QString& text);
 

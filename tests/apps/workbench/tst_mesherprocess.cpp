@@ -32,6 +32,8 @@ private Q_SLOTS:
     void meshesUnderOddNames();
     void failureKeepsThePredictorsMesh_data();
     void failureKeepsThePredictorsMesh();
+    void takesThePlaceOfAMeshBeingRead();
+    void failureLetsAReadingGoOn();
     void endsWhatTheMesherStarted();
     void endsWithTheProgram();
     void tellsErrorsOfTheGeometry();
@@ -225,6 +227,56 @@ void tst_MesherProcess::failureKeepsThePredictorsMesh()
     QCOMPARE(QFileInfo(unfinished).exists(), false);
 }
 
+// The other mesh begins to be read when the mesher has ended and its mesh is not in place yet; what of that is under
+// way when it is, ends before it is opened.
+void tst_MesherProcess::takesThePlaceOfAMeshBeingRead()
+{
+    script("cp '" + QFile::encodeName(samplePath("slivers.msh")) + "' \"$6\"");
+    MeshManager* meshes = MeshManager::instance();
+    const MesherProcess* mesher = MesherProcess::instance();
+    QObject scope;
+    connect(mesher, &MesherProcess::signal_output, &scope, [mesher, meshes] {
+        if (!mesher->isRunning()) {
+            meshes->openMesh(samplePath("bearing-housing.msh"));
+        }
+    });
+    connect(mesher, &MesherProcess::signal_finished, &scope, [meshes] { meshes->waitForLoad(); });
+    QSignalSpy started(meshes, &MeshManager::signal_loadStarted);
+    QSignalSpy loaded(meshes, &MeshManager::signal_loadFinished);
+    Messages messages;
+    QCOMPARE(run(samplePath("slivers.geo")), 1);
+    QTRY_VERIFY_WITH_TIMEOUT(!meshes->isLoading(), 60000);
+    QVERIFY2(messages.list.isEmpty(), qPrintable(messages.list.join(QLatin1Char('\n'))));
+    QCOMPARE(started.size(), 2);
+    QCOMPARE(loaded.size(), 2);
+    const int kernel = loaded.last().at(0).toInt();
+    QCOMPARE(meshes->getKernelName(kernel), QStringLiteral("slivers"));
+    QCOMPARE(meshes->getElementCount(kernel), 3156);
+    QCOMPARE(meshes->findKernels(QString()), QList<int>{kernel});
+    QCOMPARE(loaded.first().at(0).toInt(), 0);
+    QFile placed(MesherProcess::outputPath());
+    QFile wanted(samplePath("slivers.msh"));
+    QVERIFY(placed.open(QIODevice::ReadOnly) && wanted.open(QIODevice::ReadOnly));
+    QVERIFY(placed.readAll() == wanted.readAll());
+}
+
+void tst_MesherProcess::failureLetsAReadingGoOn()
+{
+    script("echo 'Error   : no'; exit 1");
+    MeshManager* meshes = MeshManager::instance();
+    const MesherProcess* mesher = MesherProcess::instance();
+    QObject scope;
+    connect(mesher, &MesherProcess::signal_output, &scope, [mesher, meshes] {
+        if (!mesher->isRunning()) {
+            meshes->openMesh(samplePath("bearing-housing.msh"));
+        }
+    });
+    QCOMPARE(run(samplePath("slivers.geo")), 0);
+    QTRY_VERIFY_WITH_TIMEOUT(!meshes->isLoading(), 60000);
+    QCOMPARE(meshes->findKernels(QString()).size(), 1);
+    QCOMPARE(meshes->getElementCount(meshes->findKernels(QString()).first()), 6811);
+}
+
 // Whether there is a process of that number that is not only waiting for its parent to look at it.
 static bool isAlive(const QString& number)
 {
@@ -333,8 +385,10 @@ void tst_MesherProcess::tellsWhenTheMeshCannotBeMoved()
     const QString geometry = samplePath("slivers.geo");
     Messages messages;
     QCOMPARE(run(geometry), 0);
-    QCOMPARE(messages.list, QStringList{QStringLiteral("2 The mesh of %1 could not be moved to %2.")
-                                            .arg(geometry, MesherProcess::outputPath())});
+    QCOMPARE(
+        messages.list,
+        QStringList{
+            QStringLiteral("2 The mesh of %1 could not be moved to %2.").arg(geometry, MesherProcess::outputPath())});
     QVERIFY(!QFileInfo::exists(MesherProcess::outputPath() + QStringLiteral(".unfinished")));
     QVERIFY(directory.exists(QStringLiteral("in the way")));
     QVERIFY(!MeshManager::instance()->isLoading());
