@@ -3,6 +3,7 @@
 
 #include <workbench/view/View3D.h>
 
+#include <workbench/selection/SelectionUndo.h>
 #include <workbench/view/CameraMotion.h>
 #include <workbench/view/HighlightState.h>
 #include <workbench/view/Scene.h>
@@ -178,6 +179,7 @@ void View3D::click(const QPoint& position)
         }
         return;
     }
+    const SelectionUndo::Burst oneStep;
     const bool isOnlyOne =
         selection->getDataCount() == 1 && selection->getSelectedDataBySelectedModel(model).contains(item);
     if (!isMultiple && selection->getDataCount() > 0 && !isOnlyOne) {
@@ -194,6 +196,7 @@ void View3D::selectIn(const QRect& rectangle)
     const Picking picking(m_scene->renderer(), m_scene->skins());
     const QList<Picking::Item> items =
         picking.itemsIn(rectangle.left(), rectangle.top(), rectangle.right(), rectangle.bottom(), model);
+    const SelectionUndo::Burst oneStep;
     if (!InteractionManager::getInstance()->isActiveMultipleSelect() && selection->getDataCount() > 0) {
         selection->clearAllSelectedTarget();
     }

@@ -7,6 +7,7 @@
 #include <workbench/geometry/GeometryManager.h>
 #include <workbench/mesh/MeshDisplay.h>
 #include <workbench/project/Project.h>
+#include <workbench/selection/SelectionUndo.h>
 #include <workbench/view/HighlightState.h>
 #include <workbench/view/View3D.h>
 #include <workbench/view/ViewCommands.h>
@@ -21,6 +22,7 @@
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QTemporaryDir>
+#include <QUndoStack>
 #include <QVBoxLayout>
 #include <QVTKOpenGLNativeWidget.h>
 
@@ -43,6 +45,8 @@ private Q_SLOTS:
     void clickReplacesAndControlAdds();
     void clickBesideDeselects();
     void boxSelectsWhatIsSeen();
+    void mouseMakesOneStepOfUndo_data();
+    void mouseMakesOneStepOfUndo();
     void hiddenIsNotPicked();
     void keysChangeTheMode();
     void lostFocusReleasesKeys();
@@ -212,6 +216,49 @@ void tst_View3D::boxSelectsWhatIsSeen()
     drag(centre() - QPoint(20, 20), centre() + QPoint(20, 20));
     QTest::keyRelease(m_canvas, Qt::Key_Control);
     QCOMPARE(countOf(BaseModule::MeshNode), all);
+}
+
+void tst_View3D::mouseMakesOneStepOfUndo_data()
+{
+    QTest::addColumn<bool>("isBox");
+    QTest::addColumn<bool>("isAdding");
+    QTest::newRow("box") << true << false;
+    QTest::newRow("box that adds") << true << true;
+    QTest::newRow("click") << false << false;
+    QTest::newRow("click that adds") << false << true;
+}
+
+// Also where it takes the place of what was selected: deselecting that is no step of its own.
+void tst_View3D::mouseMakesOneStepOfUndo()
+{
+    QFETCH(bool, isBox);
+    QFETCH(bool, isAdding);
+    SelectedDataManager* selection = SelectedDataManager::getInstance();
+    selection->setSelectModelInMainWindow(BaseModule::MeshElement);
+    const auto selected = [selection] { return selection->getSelectedDataBySelectedModel(BaseModule::MeshElement); };
+    QTest::mouseClick(m_canvas, Qt::LeftButton, Qt::NoModifier, centre() + QPoint(60, 20));
+    const QList<QPair<int, int>> before = selected();
+    QCOMPARE(before.size(), 1);
+    SelectionUndo::instance()->forget();
+    if (isAdding) {
+        QTest::keyPress(m_canvas, Qt::Key_Control);
+    }
+    if (isBox) {
+        drag(centre() - QPoint(40, 40), centre() + QPoint(40, 40));
+    } else {
+        QTest::mouseClick(m_canvas, Qt::LeftButton, Qt::NoModifier, centre());
+    }
+    if (isAdding) {
+        QTest::keyRelease(m_canvas, Qt::Key_Control);
+    }
+    const QList<QPair<int, int>> after = selected();
+    QVERIFY(after != before && !after.isEmpty());
+    QUndoStack* steps = SelectionUndo::instance()->stack();
+    QCOMPARE(steps->count(), 1);
+    steps->undo();
+    QCOMPARE(selected(), before);
+    steps->redo();
+    QCOMPARE(selected().size(), after.size());
 }
 
 void tst_View3D::hiddenIsNotPicked()
