@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 DataManager contributors
 // SPDX-License-Identifier: BSD-3-Clause
 
+#include "FileGate.h"
 #include "ProjectWindowTest.h"
 
 #include <workbench/window/TransferDialog.h>
@@ -100,18 +101,26 @@ void tst_Leaving::closingAfterFailedSavingStays()
 
 void tst_Leaving::openingIsCancelled()
 {
-    makeSlow();
-    QVERIFY(Project::instance()->saveAs(path("slow.wbproj")));
+    QVERIFY(Project::instance()->saveAs(path("gated.wbproj")));
     QVERIFY(Project::instance()->create());
     GeometryManager::instance()->addSet(QStringLiteral("kept"), {});
-    Project::instance()->startOpening(path("slow.wbproj"));
-    m_dialogs.meet<TransferDialog>([](TransferDialog& dialog) {
+    // The opening waits at the file until it was cancelled, so that the dialog comes in any case.
+    auto* gate = new FileGate(QStringLiteral("gated.wbproj"));
+    m_dialogs.meet<TransferDialog>([gate](TransferDialog& dialog) {
         QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel), Qt::LeftButton);
+        gate->open();
     });
-    const bool isOpened = TransferDialog::wait(m_window.get(), QStringLiteral("Opening"));
-    QCOMPARE(isOpened, m_dialogs.met() == 0); // a quick machine may be done before the dialog is shown
-    QCOMPARE(GeometryManager::instance()->getSetCount(), isOpened ? 0 : 1);
-    m_dialogs.forget();
+    Messages messages;
+    Project::instance()->startOpening(path("gated.wbproj"));
+    QVERIFY(!TransferDialog::wait(m_window.get(), QStringLiteral("Opening")));
+    QVERIFY(gate->hasHeld());
+    QCOMPARE(m_dialogs.met(), 1);
+    QCOMPARE(messages.list, QStringList());
+    QCOMPARE(setNames(), QStringList{QStringLiteral("kept")});
+    QCOMPARE(Project::instance()->path(), QString());
+    // Nothing else kept the project from being opened.
+    QVERIFY(Project::instance()->open(path("gated.wbproj")));
+    QCOMPARE(setNames(), QStringList());
 }
 
 void tst_Leaving::newProjectAsks_data()
