@@ -813,5 +813,9 @@ of several the highest.
         <source>  warning: </source>
         <translation>  warning: </translation>
     </message>
+    <message>
+        <source>%1 needs an allowedPercent from 0 to 100</source>
+        <translation>%1 needs an allowedPercent from 0 to 100</translation>
+    </message>
 </context>
 </TS>

@@ -811,5 +811,9 @@ of several the highest.
         <source>  warning: </source>
         <translation>  警告：</translation>
     </message>
+    <message>
+        <source>%1 needs an allowedPercent from 0 to 100</source>
+        <translation>%1 的 allowedPercent 应在 0 到 100 之间</translation>
+    </message>
 </context>
 </TS>

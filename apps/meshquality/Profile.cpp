@@ -46,7 +46,7 @@ QString readThreshold(const QJsonObject& object, Threshold& threshold)
         return QCoreApplication::translate("meshquality", "%1 needs a number as minimum or maximum").arg(name);
     }
     if (!(threshold.allowedPercent >= 0.0 && threshold.allowedPercent <= 100.0)) {
-        return QStringLiteral("%1 needs an allowedPercent from 0 to 100").arg(name);
+        return QCoreApplication::translate("meshquality", "%1 needs an allowedPercent from 0 to 100").arg(name);
     }
     threshold.source = object.value(QLatin1String("source")).toString();
     return QString();

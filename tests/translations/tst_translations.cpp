@@ -304,6 +304,13 @@ void TestTranslations::speaksChinese_data()
     QTest::newRow("meshquality, check") << meshquality << QStringList{text("check"), slivers}
                                         << text("不合格 %1: 不合格 EdgeRatio 871 个单元（27.5982 %）").arg(slivers)
                                         << QString() << 1;
+    const QString profile = m_project.filePath(text("profile.json"));
+    QFile file(profile);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(R"({"thresholds": [{"metric": "Shape", "minimum": 1, "allowedPercent": 101}]})");
+    QTest::newRow("meshquality, profile")
+        << meshquality << QStringList{text("check"), text("--profile"), profile, slivers} << QString()
+        << text("meshquality: %1: Shape 的 allowedPercent 应在 0 到 100 之间\n").arg(profile) << 3;
     QTest::newRow("meshquality, model") << meshquality << words("model") << text("\n  符合质量模型的约定\n")
                                         << QString() << 0;
     QTest::newRow("meshquality, report") << meshquality << QStringList{text("report"), slivers}
