@@ -841,10 +841,6 @@ Version %1</translation>
         <translation>Property %1</translation>
     </message>
     <message>
-        <source>Property %1, component %2: %3</source>
-        <translation>Property %1, component %2: %3</translation>
-    </message>
-    <message>
         <source>&amp;English name</source>
         <translation>&amp;English name</translation>
     </message>
@@ -855,6 +851,10 @@ Version %1</translation>
     <message>
         <source>Properties</source>
         <translation>Properties</translation>
+    </message>
+    <message>
+        <source>%1, component %2: %3</source>
+        <translation>%1, component %2: %3</translation>
     </message>
 </context>
 <context>

@@ -841,10 +841,6 @@ Version %1</source>
         <translation>属性 %1</translation>
     </message>
     <message>
-        <source>Property %1, component %2: %3</source>
-        <translation>属性 %1，分量 %2：%3</translation>
-    </message>
-    <message>
         <source>&amp;English name</source>
         <translation>英文名称(&amp;E)</translation>
     </message>
@@ -855,6 +851,10 @@ Version %1</source>
     <message>
         <source>Properties</source>
         <translation>属性</translation>
+    </message>
+    <message>
+        <source>%1, component %2: %3</source>
+        <translation>%1，分量 %2：%3</translation>
     </message>
 </context>
 <context>

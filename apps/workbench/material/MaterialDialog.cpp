@@ -14,7 +14,10 @@
 #include <QEvent>
 #include <QFormLayout>
 #include <QLineEdit>
+#include <QTabBar>
 #include <QTabWidget>
+
+#include <algorithm>
 
 namespace Workbench {
 
@@ -45,6 +48,7 @@ MaterialDialog::MaterialDialog(BaseModule::MaterialLibType type, const Materials
     createEditors(material);
     layOut();
     retranslate();
+    showAllTabs();
 }
 
 void MaterialDialog::createEditors(const Materials::Material& material)
@@ -55,9 +59,7 @@ void MaterialDialog::createEditors(const Materials::Material& material)
         m_editors.append(new PropertyEditor(property, this));
         m_editors.last()->setObjectName(QStringLiteral("property%1").arg(i + 1));
         m_tabs->addTab(m_editors.last(), QString());
-        if (!property.isNull()) {
-            m_tabs->setTabToolTip(i, property->label);
-        }
+        connect(m_editors.last(), &PropertyEditor::titleChanged, this, [this, i] { nameTab(i); });
     }
 }
 
@@ -82,8 +84,34 @@ void MaterialDialog::retranslate()
     m_labels.setTexts({tr("&English name"), tr("&Chinese name")});
     m_tabs->setAccessibleName(tr("Properties"));
     for (int i = 0; i < m_tabs->count(); ++i) {
-        m_tabs->setTabText(i, tr("Property %1").arg(i + 1));
+        nameTab(i);
     }
+}
+
+QString MaterialDialog::propertyName(int index) const
+{
+    const QString title = m_editors.at(index)->title();
+    return title.isEmpty() ? tr("Property %1").arg(index + 1) : title;
+}
+
+// A label may be of any length, and hold what tabs take for the mark of a key.
+void MaterialDialog::nameTab(int index)
+{
+    constexpr int mostCharacters = 30;
+    const QFontMetrics metrics = m_tabs->fontMetrics();
+    const QString name =
+        metrics.elidedText(propertyName(index), Qt::ElideRight, mostCharacters * metrics.averageCharWidth());
+    m_tabs->setTabText(index, QString(name).replace(QLatin1Char('&'), QStringLiteral("&&")));
+    m_tabs->setTabToolTip(index, tr("Property %1").arg(index + 1));
+}
+
+// By itself a dialog takes no notice of how wide its tabs are.
+void MaterialDialog::showAllTabs()
+{
+    constexpr int mostWidth = 1100;
+    const int margins = sizeHint().width() - m_tabs->sizeHint().width();
+    const int wanted = m_tabs->tabBar()->sizeHint().width() + margins;
+    resize(sizeHint().expandedTo(QSize(std::min(wanted, mostWidth), 0)));
 }
 
 void MaterialDialog::changeEvent(QEvent* event)
@@ -118,7 +146,7 @@ bool MaterialDialog::check()
     for (int i = 0; i < m_editors.size(); ++i) {
         if (NumberField* const field = m_editors.at(i)->refusedField()) {
             m_tabs->setCurrentIndex(i);
-            m_refusal->tell(tr("Property %1, component %2: %3").arg(i + 1).arg(field->objectName(), field->refusal()),
+            m_refusal->tell(tr("%1, component %2: %3").arg(propertyName(i), field->objectName(), field->refusal()),
                             field);
             return false;
         }

@@ -41,6 +41,10 @@ private:
     void createEditors(const Materials::Material& material);
     void layOut();
     void retranslate();
+    void showAllTabs();
+    /// What a property is called here: as its record says, else by its place.
+    QString propertyName(int index) const;
+    void nameTab(int index);
     /// False when a name or a number is refused; then the reason is shown, and the field has the focus.
     bool check();
     void apply();

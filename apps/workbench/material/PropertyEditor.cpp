@@ -45,6 +45,9 @@ PropertyEditor::PropertyEditor(const Property& property, QWidget* parent)
     connect(m_quantity, QOverload<int>::of(&QComboBox::activated), this, &PropertyEditor::chooseQuantity);
     connect(m_kind, QOverload<int>::of(&QSpinBox::valueChanged), this, &PropertyEditor::showQuantityAndUnit);
     connect(m_remark, &QLineEdit::textChanged, this, &PropertyEditor::showQuantityAndUnit);
+    connect(m_kind, QOverload<int>::of(&QSpinBox::valueChanged), this, &PropertyEditor::titleChanged);
+    connect(m_label, &QLineEdit::textChanged, this, &PropertyEditor::titleChanged);
+    connect(m_group, &QGroupBox::toggled, this, &PropertyEditor::titleChanged);
 }
 
 void PropertyEditor::nameFields()
@@ -107,6 +110,7 @@ void PropertyEditor::retranslate()
     m_remark->setPlaceholderText(tr("unit X; source of the values; conditions"));
     m_flag->setText(tr("set; in the default library: differs between directions"));
     showQuantityAndUnit();
+    Q_EMIT titleChanged();
 }
 
 void PropertyEditor::changeEvent(QEvent* event)
@@ -192,6 +196,15 @@ QList<double> PropertyEditor::components() const
         values.append(field->value());
     }
     return values;
+}
+
+QString PropertyEditor::title() const
+{
+    if (!m_group->isChecked()) {
+        return {};
+    }
+    const QString label = m_label->text().simplified();
+    return label.isEmpty() || label == propertyKindLabel(m_kind->value()) ? propertyKindTitle(m_kind->value()) : label;
 }
 
 PropertyEditor::Property PropertyEditor::property() const

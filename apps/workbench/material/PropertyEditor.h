@@ -40,6 +40,13 @@ public:
     NumberField* refusedField() const;
     /// The record as edited: the one given when nothing was changed, otherwise a new one; null when there is none.
     Property property() const;
+    /// What the record says that it is: its label, in the interface language where it is that of its kind; without one
+    /// the name of the kind. Empty when there is no record, or when it does not say.
+    QString title() const;
+
+Q_SIGNALS:
+    /// Also when the interface language changes.
+    void titleChanged();
 
 protected:
     void changeEvent(QEvent* event) override;

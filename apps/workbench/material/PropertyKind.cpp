@@ -39,6 +39,12 @@ const QVector<PropertyKind>& propertyKinds()
     return kinds;
 }
 
+QString propertyKindLabel(int number)
+{
+    const PropertyKind* const kind = findKind(number);
+    return kind == nullptr ? QString() : kind->label;
+}
+
 QString propertyKindTitle(int number)
 {
     const PropertyKind* const kind = findKind(number);

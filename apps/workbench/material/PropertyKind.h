@@ -18,6 +18,9 @@ struct PropertyKind
 
 const QVector<PropertyKind>& propertyKinds();
 
+/// The quantity as records name it; empty for an unknown number.
+QString propertyKindLabel(int number);
+
 /// The quantity for the user; empty for an unknown number.
 QString propertyKindTitle(int number);
 

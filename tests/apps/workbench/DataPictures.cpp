@@ -74,7 +74,7 @@ bool takeMaterials(QWidget& window, const QString& directory)
     MaterialDialog::openFor(BaseModule::ProjectLib, 1, &dock);
     windowNamed("materialDialog")->findChild<QTabWidget*>()->setCurrentIndex(2);
     const bool isDialogTaken =
-        takeDialog("materialDialog", directory + QStringLiteral("/workbench-material.png"), {560, 480});
+        takeDialog("materialDialog", directory + QStringLiteral("/workbench-material.png"), {780, 480});
     ImportDialog::openFor(BaseModule::SoftwareLib, {1, 2, 3, 4}, &dock);
     return isDockTaken && isDialogTaken &&
            takeDialog("importDialog", directory + QStringLiteral("/workbench-import.png"), {640, 340});

@@ -247,7 +247,7 @@ void tst_MaterialDialog::refusesNumbers()
     QCOMPARE(field.toolTip(), reason);
     part<QTabWidget>(dialog, "properties").setCurrentIndex(3);
     press(dialog, QDialogButtonBox::Ok);
-    QCOMPARE(shown(dialog, "refusal"), text("Property 1, component yz: ") + reason);
+    QCOMPARE(shown(dialog, "refusal"), text("Steel, component yz: ") + reason);
     QCOMPARE(part<QTabWidget>(dialog, "properties").currentIndex(), 0);
     QVERIFY(dialog.isVisible());
     QCOMPARE(project(1)->property1->components.at(5), 0.0);
@@ -371,7 +371,7 @@ void tst_MaterialDialog::keepsOtherNumbersOfComponents()
     QWidget& again = edit(1);
     type(editor(again, "property1"), "xx", text("1"));
     press(again, QDialogButtonBox::Ok);
-    QCOMPARE(shown(again, "refusal"), text("Property 1, component xy: A number is missing."));
+    QCOMPARE(shown(again, "refusal"), text("pair, component xy: A number is missing."));
     QCOMPARE(project(1)->property1->components, QList<double>({1, 2}));
     press(again, QDialogButtonBox::Cancel);
 }
