@@ -8,4 +8,4 @@ set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 "$here/scripts/build.sh" release build
 cd "$here/build"
-exec ctest --output-on-failure -j "$(nproc)" "$@"
+exec ctest --output-on-failure -j "$(($(nproc) + 1))" "$@"
