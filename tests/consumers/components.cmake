@@ -53,7 +53,7 @@ endforeach()
 
 # A header is private when it lies in a folder of that name; no public one may need it.
 foreach(file IN LISTS all)
-  if(file MATCHES "^include/.*/private/" OR file MATCHES "/(AtomicFile|EscapedText|JsonNumber|NumberText|ValueCodec)[.]h$")
+  if(file MATCHES "^include/.*/private/" OR file MATCHES "/(AtomicFile|EscapedText|FileReplacement|JsonNumber|NumberText|ValueCodec)[.]h$")
     message(FATAL_ERROR "private, yet installed: ${file}")
   elseif(file MATCHES "^include/")
     file(STRINGS "${work}/all/${file}" includes REGEX "#include <.*/private/")

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QFile>
+#include <QIODevice>
 #include <QString>
 
 #include <memory>
@@ -11,10 +11,7 @@
 namespace Workbench {
 
 /// New content for a file, of any size, that takes the file's place only when all of it is on the disk: a crash, a full
-/// disk or a power cut leaves the old content or the new one, whole.
-///
-/// Meanwhile it stands in a hidden file beside the target, which is locked. One that a killed process left behind is
-/// known by its free lock; the next replacement of the same target, or removeAbandoned(), removes it.
+/// disk or a power cut leaves the old content or the new one, whole. The library replaces its files by the same code.
 class ReplacementFile
 {
 public:
@@ -35,20 +32,13 @@ public:
     /// What went wrong first, as the system says it; also of what was written to the device. Empty when nothing did.
     QString problem() const;
 
+    /// Removes what a killed process left beside the target of `path`.
     static void removeAbandoned(const QString& path);
 
 private:
     class Content;
 
-    bool fail(int systemError);
-    bool openLocked();
-    void keepPermissions();
-
-    QString m_target;
-    QString m_name;
-    std::unique_ptr<Content> m_file;
-    QString m_problem;
-    bool m_isOurs = false;
+    std::unique_ptr<Content> m_content;
 };
 
 } // namespace Workbench

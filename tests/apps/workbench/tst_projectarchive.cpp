@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 DataManager contributors
 // SPDX-License-Identifier: BSD-3-Clause
 
+#include "FileSizeLimit.h"
 #include "ProjectContent.h"
 
 #include <support/FilesAndLog.h>
@@ -10,15 +11,27 @@
 #include <workbench/project/Snapshot.h>
 
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <cerrno>
 #include <cstring>
 #include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using BaseModule::GlobalHelper;
 using namespace Workbench;
+
+namespace {
+
+QString systemText(int error)
+{
+    return QString::fromLocal8Bit(std::strerror(error));
+}
+
+} // namespace
 
 /// How the files of a project come into its archive and out of it.
 class tst_ProjectArchive : public QObject
@@ -32,8 +45,13 @@ private Q_SLOTS:
     void replacementsExcludeEachOther();
     void abandonedReplacementsGo();
     void refusesWhatIsNoFile();
+    void failedWritesAreNotCommitted();
     void keepsPermissions();
-    void followsALink();
+    void followsLinks();
+    void plantedFilesStayAsTheyAre_data();
+    void plantedFilesStayAsTheyAre();
+    void savesOnOddSystems_data();
+    void savesOnOddSystems();
     void snapshotKeepsWhatWas();
     void packsInBlocks();
     void packingGivesUp();
@@ -72,7 +90,7 @@ void tst_ProjectArchive::replacementsExcludeEachOther()
     ReplacementFile second(path("file"));
     QVERIFY(first.open());
     QVERIFY(!second.open());
-    QCOMPARE(second.problem(), QString::fromLocal8Bit(std::strerror(EBUSY)));
+    QCOMPARE(second.problem(), systemText(EBUSY));
     first.device().write("first");
     QVERIFY(first.commit());
     QVERIFY(second.open());
@@ -108,12 +126,40 @@ void tst_ProjectArchive::refusesWhatIsNoFile()
 {
     ReplacementFile directory(m_directory->path());
     QVERIFY(!directory.open());
-    QCOMPARE(directory.problem(), QString::fromLocal8Bit(std::strerror(EISDIR)));
+    QCOMPARE(directory.problem(), systemText(EISDIR));
     ReplacementFile device(QStringLiteral("/dev/null"));
     QVERIFY(!device.open());
+    QCOMPARE(device.problem(), systemText(EINVAL));
     ReplacementFile nowhere(path("no/such/file"));
     QVERIFY(!nowhere.open());
-    QCOMPARE(nowhere.problem(), QString::fromLocal8Bit(std::strerror(ENOENT)));
+    QCOMPARE(nowhere.problem(), systemText(ENOENT));
+    ReplacementFile nameless((QString()));
+    QVERIFY(!nameless.open());
+    QCOMPARE(nameless.problem(), systemText(ENOENT));
+    ReplacementFile broken(path("file") + QChar(QChar::Null));
+    QVERIFY(!broken.open());
+    QCOMPARE(broken.problem(), systemText(EINVAL));
+    QCOMPARE(namesIn(m_directory->path()), QStringList());
+}
+
+// A part of the content fits, and later something small would again.
+void tst_ProjectArchive::failedWritesAreNotCommitted()
+{
+    writeFile(path("file"), "old");
+    {
+        ReplacementFile file(path("file"));
+        QVERIFY(file.open());
+        {
+            const FileSizeLimit limit(4096);
+            QCOMPARE(file.device().write(QByteArray(5000, 'n')), qint64(-1));
+        }
+        QCOMPARE(file.device().write("n"), qint64(-1));
+        QCOMPARE(file.problem(), systemText(EFBIG));
+        QVERIFY(!file.commit());
+        QCOMPARE(file.problem(), systemText(EFBIG));
+    }
+    QCOMPARE(contentOf(path("file")), QByteArray("old"));
+    QCOMPARE(namesIn(m_directory->path()), QStringList{QStringLiteral("file")});
 }
 
 void tst_ProjectArchive::keepsPermissions()
@@ -130,16 +176,102 @@ void tst_ProjectArchive::keepsPermissions()
     QCOMPARE(QFile::permissions(path("file")), permissions);
 }
 
-void tst_ProjectArchive::followsALink()
+// Links that lead to links, at first to a file that does not exist yet.
+void tst_ProjectArchive::followsLinks()
 {
-    writeFile(path("file"), "old");
-    QVERIFY(QFile::link(path("file"), path("link")));
-    ReplacementFile file(path("link"));
+    QVERIFY(QFile::link(path("file"), path("last")));
+    QVERIFY(QFile::link(path("last"), path("middle")));
+    QVERIFY(QFile::link(QStringLiteral("middle"), path("first")));
+    for (const char* const content : {"created", "replaced"}) {
+        ReplacementFile file(path("first"));
+        QVERIFY(file.open());
+        file.device().write(content);
+        QVERIFY(file.commit());
+        QCOMPARE(contentOf(path("file")), QByteArray(content));
+        for (const char* const link : {"first", "middle", "last"}) {
+            QVERIFY(QFileInfo(path(link)).isSymLink());
+        }
+    }
+    QVERIFY(QFile::link(path("circle"), path("circle")));
+    ReplacementFile circle(path("circle"));
+    QVERIFY(!circle.open());
+    QCOMPARE(circle.problem(), systemText(ELOOP));
+}
+
+void tst_ProjectArchive::plantedFilesStayAsTheyAre_data()
+{
+    QTest::addColumn<QString>("kind");
+    for (const char* const kind : {"a file with another name", "a pipe", "a file of another user"}) {
+        QTest::newRow(kind) << text(kind);
+    }
+}
+
+// Who lays a file where the new content goes must not get to read it.
+void tst_ProjectArchive::plantedFilesStayAsTheyAre()
+{
+    QFETCH(QString, kind);
+    ReplacementFile file(path("file"));
     QVERIFY(file.open());
-    file.device().write("new");
+    const QByteArray planted = QFile::encodeName(m_directory->filePath(namesIn(m_directory->path()).value(0)));
     QVERIFY(file.commit());
-    QVERIFY(QFileInfo(path("link")).isSymLink());
-    QCOMPARE(contentOf(path("file")), QByteArray("new"));
+    const QByteArray theirs = QFile::encodeName(writeFile(path("theirs"), "theirs"));
+    if (kind.endsWith(text("name"))) {
+        QCOMPARE(::link(theirs.constData(), planted.constData()), 0);
+    } else if (kind == text("a pipe")) {
+        QCOMPARE(::mkfifo(planted.constData(), 0666), 0);
+    } else if (::geteuid() == 0) {
+        writeFile(QFile::decodeName(planted), "planted");
+        QCOMPARE(::chown(planted.constData(), 65534, 65534), 0);
+    } else {
+        QSKIP("only root may give files away");
+    }
+    QVERIFY(QFile::remove(path("file")));
+    QVERIFY(file.open());
+    file.device().write("ours");
+    QVERIFY(file.commit());
+    struct stat status = {};
+    QCOMPARE(::stat(QFile::encodeName(path("file")).constData(), &status), 0);
+    QCOMPARE(status.st_uid, ::geteuid());
+    QCOMPARE(contentOf(path("file")), QByteArray("ours"));
+    QCOMPARE(contentOf(path("theirs")), QByteArray("theirs"));
+    QCOMPARE(namesIn(m_directory->path()), (QStringList{text("file"), text("theirs")}));
+}
+
+void tst_ProjectArchive::savesOnOddSystems_data()
+{
+    QTest::addColumn<QString>("calls");
+    QTest::addColumn<QString>("fault");
+    QTest::newRow("signals interrupt") << text("write,flock") << text("error=EINTR:when=1+2");
+    QTest::newRow("no locks") << text("flock") << text("error=ENOLCK");
+}
+
+// Has another of these tests run where system calls fail.
+void tst_ProjectArchive::savesOnOddSystems()
+{
+    QFETCH(QString, calls);
+    QFETCH(QString, fault);
+    const QString strace = QStandardPaths::findExecutable(text("strace"));
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(text("ASAN_OPTIONS"), text("detect_leaks=0")); // cannot look for leaks while it is traced
+    process.setProcessEnvironment(environment);
+    const auto run = [&](const QStringList& options) {
+        process.start(strace, QStringList{text("-f"), text("-y"), text("-o"), path("trace")} + options +
+                                  QStringList{QCoreApplication::applicationFilePath(), text("followsLinks")});
+        return process.waitForFinished() && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    };
+    if (strace.isEmpty() || !run({})) {
+        QSKIP("strace is not installed, or tracing is not permitted here");
+    }
+    QVERIFY2(run({text("-e"), text("trace=write,flock"), text("-e"), text("inject=%1:%2").arg(calls, fault)}),
+             process.readAllStandardOutput().constData());
+    const QString trace = text(contentOf(path("trace")));
+    for (const QString& call : calls.split(QLatin1Char(','))) {
+        const QRegularExpression injected(call + text("\\(\\d+<[^>]*\\.saving>.*INJECTED"));
+        QVERIFY2(trace.contains(injected), qPrintable(trace));
+    }
+    // Without locks, and only then, the name tells the processes apart.
+    QCOMPARE(trace.contains(text(".saving.")), calls == text("flock"));
 }
 
 void tst_ProjectArchive::snapshotKeepsWhatWas()
@@ -254,7 +386,7 @@ void tst_ProjectArchive::foldersWithoutPermission()
     }
     QVERIFY2(unreadable.contains(QStringLiteral("may not read")), qPrintable(unreadable));
     QFile::setPermissions(path("closed/project.wbproj"), QFile::ReadOwner | QFile::WriteOwner);
-    QVERIFY2(problem.contains(QString::fromLocal8Bit(std::strerror(EACCES))), qPrintable(problem));
+    QVERIFY2(problem.contains(systemText(EACCES)), qPrintable(problem));
     QCOMPARE(contentOf(path("closed/project.wbproj")), before);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 DataManager contributors
 // SPDX-License-Identifier: BSD-3-Clause
 
+#include "FileSizeLimit.h"
 #include "ProjectContent.h"
 #include "WindowTest.h"
 
@@ -15,40 +16,12 @@
 #include <QTemporaryDir>
 
 #include <cerrno>
-#include <csignal>
 #include <cstring>
 #include <sched.h>
 #include <sys/mount.h>
-#include <sys/resource.h>
 
 using BaseModule::GlobalHelper;
 using namespace Workbench;
-
-namespace {
-
-/// Files of this process grow no larger while it lives.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const struct rlimit limit
-        {
-            bytes, m_before.rlim_max
-        };
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-private:
-    struct rlimit m_before = {};
-};
-
-} // namespace
 
 class tst_SavingProject : public QObject
 {
