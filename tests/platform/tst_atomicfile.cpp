@@ -7,6 +7,7 @@
 #include <support/Nobody.h>
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -136,6 +137,19 @@ private Q_SLOTS:
     void waitsForAnotherSave()
     {
         saveMeanwhile([this](const HeldTemporary& other) { other.renameTo(file()); });
+    }
+
+    // The other one may hang.
+    void waitsTwoSecondsAtMost()
+    {
+        QVERIFY(save(file(), "old"));
+        const HeldTemporary other(path(temporaryName));
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(!save(file(), "new"));
+        QVERIFY2(time.elapsed() >= 1900, qPrintable(QString::number(time.elapsed())));
+        QCOMPARE(content(), QByteArray("old"));
+        QCOMPARE(entries(), (QStringList{temporaryName, QStringLiteral("file")}));
     }
 
     void leavesATemporaryThatLostItsName()
