@@ -229,6 +229,29 @@ private Q_SLOTS:
         QCOMPARE(status().st_gid, gid_t(65534));
     }
 
+    void fillsNoFileThatItCannotRemove()
+    {
+        if (::geteuid() != 0) {
+            QSKIP("Only root can be somebody else.");
+        }
+        QVERIFY(save(file(), "old"));
+        QFile planted(path(temporaryName));
+        QVERIFY(planted.open(QIODevice::WriteOnly));
+        planted.close();
+        for (const QString& name : {file(), path(temporaryName)}) {
+            QCOMPARE(::chmod(QFile::encodeName(name).constData(), 0666), 0);
+        }
+        QCOMPARE(::chmod(QFile::encodeName(m_directory->path()).constData(), 0755), 0);
+        bool isSaved = true;
+        {
+            const Nobody nobody;
+            isSaved = save(file(), "new");
+        }
+        QVERIFY(!isSaved);
+        QCOMPARE(content(), QByteArray("old"));
+        QCOMPARE(planted.size(), qint64(0));
+    }
+
     // What ran with the rights of the old owner, or for others, must not do so with those of the new one.
     void dropsRightsToRunWhenTheOwnerChanges()
     {
