@@ -12,12 +12,14 @@
 
 #include <basemodule/GlobalHelper.h>
 
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <algorithm>
 
 namespace Workbench {
 
+using BaseModule::GlobalHelper;
 using DataManager::RelativeCoordinateSystem;
 
 namespace {
@@ -33,10 +35,40 @@ void tellChange()
 void appendGlobalSystem()
 {
     const QTemporaryDir elsewhere;
-    const QString directory = BaseModule::GlobalHelper::getProjectTempIODir();
-    BaseModule::GlobalHelper::setProjectTempIODir(elsewhere.path());
+    const QString directory = GlobalHelper::getProjectTempIODir();
+    GlobalHelper::setProjectTempIODir(elsewhere.path());
     coordinateRegistry().appendCoordinateSystem(newCoordinateRecord(0, 0, {QStringLiteral("Global")}));
-    BaseModule::GlobalHelper::setProjectTempIODir(directory);
+    GlobalHelper::setProjectTempIODir(directory);
+}
+
+bool hasOnlyGlobalSystem()
+{
+    return coordinateRegistry().getRelativeCoordinateSystemDateCount() <= 1;
+}
+
+QString projectFile()
+{
+    return GlobalHelper::getProjectTempIODir() + QStringLiteral("/RelativeCoordinateSystemDate.json");
+}
+
+/// Empty when the file cannot be read.
+QByteArray contentOf(const QString& path)
+{
+    QByteArray content;
+    return GlobalHelper::readFile(path, content) ? content : QByteArray();
+}
+
+/// What the registry writes. It tells nobody whether it could: so it writes a file that was not there, on the same
+/// disk. Empty when it could not.
+QByteArray registryContent()
+{
+    const QString directory = GlobalHelper::getProjectTempIODir();
+    const QTemporaryDir elsewhere(directory + QStringLiteral("/coordinates-XXXXXX"));
+    GlobalHelper::setProjectTempIODir(elsewhere.path());
+    coordinateRegistry().writeConfig();
+    const QByteArray content = elsewhere.isValid() ? contentOf(projectFile()) : QByteArray();
+    GlobalHelper::setProjectTempIODir(directory);
+    return content;
 }
 
 int nextID()
@@ -217,12 +249,27 @@ void CoordinateSystems::loadProject()
 {
     coordinateRegistry().resetData();
     coordinateRegistry().readConfig();
+    m_unread = hasOnlyGlobalSystem() ? contentOf(projectFile()) : QByteArray();
     tellChange();
+}
+
+bool CoordinateSystems::saveProject()
+{
+    const QByteArray stored = contentOf(projectFile());
+    // What could not be read stays as long as there is nothing that takes its place.
+    if (hasOnlyGlobalSystem() && stored == m_unread && (!stored.isEmpty() || !QFileInfo::exists(projectFile()))) {
+        return true;
+    }
+    const QByteArray content = registryContent();
+    return !content.isEmpty() &&
+           (stored == content ||
+            GlobalHelper::writeFile(projectFile(), content, QIODevice::WriteOnly | QIODevice::Truncate));
 }
 
 void CoordinateSystems::clearProject()
 {
     coordinateRegistry().resetData();
+    m_unread.clear();
 }
 
 } // namespace Workbench

@@ -6,6 +6,7 @@
 #include <workbench/coordinates/CoordinateDefinition.h>
 #include <workbench/coordinates/CoordinateTree.h>
 
+#include <QByteArray>
 #include <QList>
 #include <QObject>
 
@@ -57,6 +58,9 @@ public:
 
     /// Replaces all systems but the global one by those of the project's working directory.
     void loadProject();
+    /// Makes sure that the project's file holds the systems, also after a write that failed unnoticed. False when it
+    /// cannot be written. A file that could not be read stays while there is no system but the global one.
+    bool saveProject();
     /// Removes all systems but the global one. The file stays as it is.
     void clearProject();
 
@@ -64,6 +68,8 @@ private:
     CoordinateSystems();
 
     CoordinateAxes* m_axes;
+    /// The content of a file that gave no system.
+    QByteArray m_unread;
 };
 
 } // namespace Workbench

@@ -4,6 +4,7 @@
 #include <workbench/material/MaterialLibraries.h>
 
 #include <workbench/material/MaterialFavourites.h>
+#include <workbench/material/ProjectMaterials.h>
 #include <workbench/material/SaveWatch.h>
 
 #include <datamanager/material/MaterialLibraryManager.h>
@@ -196,6 +197,18 @@ void MaterialLibraries::loadProject()
     manager().initProjectMaterial();
     m_origins.read();
     Q_EMIT changed(BaseModule::ProjectLib);
+}
+
+bool MaterialLibraries::saveProject()
+{
+    if (!isProjectInFile(manager().getMatLibDataByType(BaseModule::ProjectLib))) {
+        const SaveWatch watch;
+        manager().writeProjectMatConfig();
+        if (!watch.lines().isEmpty()) {
+            return false;
+        }
+    }
+    return m_origins.write();
 }
 
 void MaterialLibraries::clearProject()

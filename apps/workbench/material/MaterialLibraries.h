@@ -48,6 +48,9 @@ public:
 
     /// Reads the project's library from the working directory.
     void loadProject();
+    /// Makes sure that the working directory holds the project's library, also after a write that failed. False when it
+    /// cannot be written. A file that could not be read stays while the library is empty.
+    bool saveProject();
     /// Empties the project's library and removes its file.
     void clearProject();
 

@@ -82,17 +82,17 @@ void MaterialOrigins::read()
     }
 }
 
-void MaterialOrigins::write() const
+bool MaterialOrigins::write() const
 {
     if (m_origins.isEmpty() && !QFile::exists(path())) {
-        return;
+        return true;
     }
     QJsonArray materials;
     for (auto origin = m_origins.begin(); origin != m_origins.end(); ++origin) {
         materials.append(toJson(origin.key(), *origin));
     }
-    GlobalHelper::writeFile(path(), QJsonDocument(QJsonObject{{materialsKey, materials}}).toJson(),
-                            QIODevice::WriteOnly | QIODevice::Truncate);
+    return GlobalHelper::writeFile(path(), QJsonDocument(QJsonObject{{materialsKey, materials}}).toJson(),
+                                   QIODevice::WriteOnly | QIODevice::Truncate);
 }
 
 void MaterialOrigins::clear()

@@ -34,9 +34,10 @@ public:
     void markEdited(int id);
     void forget(int id);
 
-    /// From and to the working directory. What cannot be read there counts as unknown.
+    /// From and to the working directory. What cannot be read there counts as unknown. False when the file
+    /// that is wanted cannot be written.
     void read();
-    void write() const;
+    bool write() const;
     /// Forgets all and removes the file.
     void clear();
 

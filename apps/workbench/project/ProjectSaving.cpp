@@ -3,16 +3,17 @@
 
 #include <workbench/project/Project.h>
 
+#include <workbench/coordinates/CoordinateSystems.h>
 #include <workbench/geometry/GeometryManager.h>
+#include <workbench/material/MaterialLibraries.h>
 #include <workbench/mesh/MeshManager.h>
 #include <workbench/project/ProjectArchive.h>
 #include <workbench/project/RecentProjects.h>
 #include <workbench/project/Snapshot.h>
 #include <workbench/project/WorkingDirectory.h>
 
-#include <datamanager/material/MaterialLibraryManager.h>
-
 #include <QFileInfo>
+#include <QScopedValueRollback>
 
 namespace Workbench {
 
@@ -61,11 +62,14 @@ void Project::saveWanted()
 
 bool Project::prepareFiles()
 {
-    const QString directory = m_directory->path();
-    if (!QFileInfo::exists(ProjectFiles::materials(directory))) {
-        DataManager::MaterialLibraryManager::getInstance()->writeProjectMatConfig();
+    if (!m_directory) {
+        return false;
     }
-    return GeometryManager::instance()->save(ProjectFiles::geometry(directory)) &&
+    const QString directory = m_directory->path();
+    // Telling of the files is no change of the project.
+    const QScopedValueRollback<bool> quiet(m_isLoading, true);
+    return MaterialLibraries::instance()->saveProject() && CoordinateSystems::instance()->saveProject() &&
+           GeometryManager::instance()->save(ProjectFiles::geometry(directory)) &&
            MeshManager::instance()->save(ProjectFiles::mesh(directory)) &&
            ProjectFiles::writeDescription(directory, m_geometry);
 }

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 DataManager contributors
 // SPDX-License-Identifier: BSD-3-Clause
 
+#include "FileSizeLimit.h"
+#include "Samples.h"
 #include "WindowTest.h"
 
 #include <support/FilesAndLog.h>
@@ -16,6 +18,7 @@
 #include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
 #include <datamodel/MaterialData.h>
 
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTreeView>
 #include <QTreeWidget>
@@ -48,6 +51,13 @@ void makeContent()
     CoordinateSystems::instance()->create(1, {text("Tool"), BaseModule::Cartesian, {1, 2, 3}, {0, 0, 1.0 / 3}});
 }
 
+void expectLines(int count, const char* pattern)
+{
+    for (int i = 0; i < count; ++i) {
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression(QLatin1String(pattern)));
+    }
+}
+
 } // namespace
 
 /// Materials and coordinate systems of a project that is saved and opened again.
@@ -58,6 +68,10 @@ class tst_ProjectData : public QObject
 private Q_SLOTS:
     void marksChanges();
     void comesBackExactly();
+    void savesWhatCouldNotBeWritten();
+    void failsWithoutWorkingFiles_data();
+    void failsWithoutWorkingFiles();
+    void keepsUnreadableFiles();
     void cleanupTestCase() { Project::instance()->close(); }
 };
 
@@ -105,6 +119,87 @@ void tst_ProjectData::comesBackExactly()
     MaterialLibraries::instance()->update(BaseModule::ProjectLib, 4,
                                           *MaterialLibraries::material(BaseModule::ProjectLib, 4));
     QCOMPARE(materialJson(), savedMaterials);
+}
+
+// The disk was full when the systems and materials were changed, and is not when the project is saved.
+void tst_ProjectData::savesWhatCouldNotBeWritten()
+{
+    QVERIFY(Project::instance()->create());
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(text("late.wbproj"));
+    makeContent();
+    QVERIFY(Project::instance()->saveAs(file));
+    const QString materials = materialJson();
+    const QByteArray systems = workingFile("RelativeCoordinateSystemDate.json");
+    expectLines(1, "^Write project material library file fail");
+    {
+        const FileSizeLimit limit(16);
+        MaterialLibraries::instance()->create(BaseModule::ProjectLib,
+                                              {0, text("晚"), text("Late"), {}, {}, {}, {}, {}});
+        CoordinateSystems::instance()->create(0, {text("Late"), BaseModule::Cartesian, {}, {}});
+    }
+    QCOMPARE(materialJson(), materials);
+    QCOMPARE(workingFile("RelativeCoordinateSystemDate.json"), systems);
+    QVERIFY(Project::instance()->save());
+    QVERIFY(!Project::instance()->isModified());
+    QVERIFY(Project::instance()->open(file));
+    QVERIFY(materialJson().contains(text("Late")));
+    QVERIFY(MaterialLibraries::material(BaseModule::ProjectLib, 5));
+    QCOMPARE(CoordinateSystems::definition(3).name, text("Late"));
+}
+
+void tst_ProjectData::failsWithoutWorkingFiles_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("materials") << text("MaterialLibrary.json");
+    QTest::newRow("origins of materials") << text("MaterialOrigins.json");
+    QTest::newRow("coordinate systems") << text("RelativeCoordinateSystemDate.json");
+}
+
+// A directory in the file's place cannot be replaced.
+void tst_ProjectData::failsWithoutWorkingFiles()
+{
+    QFETCH(QString, name);
+    QVERIFY(Project::instance()->create());
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(text("failed.wbproj"));
+    QVERIFY(Project::instance()->saveAs(file));
+    const QByteArray before = contentOf(file);
+    QDir working(BaseModule::GlobalHelper::getProjectTempIODir());
+    working.remove(name);
+    QVERIFY(working.mkpath(name + text("/inside")));
+    // Three changes, and the save.
+    expectLines(name.startsWith(text("MaterialL")) ? 4 : 0, "^Write project material library file fail");
+    makeContent();
+    Messages messages;
+    QVERIFY(!Project::instance()->save());
+    QCOMPARE(messages.list.size(), 1);
+    QVERIFY2(messages.list.first().contains(text("working files could not be written")),
+             qPrintable(messages.list.first()));
+    QVERIFY(Project::instance()->isModified());
+    QCOMPARE(contentOf(file), before);
+    QVERIFY(working.rmpath(name + text("/inside")));
+    QVERIFY(Project::instance()->save());
+    QVERIFY(!Project::instance()->isModified());
+    QVERIFY(QFileInfo(working.filePath(name)).isFile());
+}
+
+void tst_ProjectData::keepsUnreadableFiles()
+{
+    QVERIFY(Project::instance()->create());
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(text("unreadable.wbproj"));
+    expectLines(5, "^Decrypt text fail");
+    const QString working = BaseModule::GlobalHelper::getProjectTempIODir();
+    QVERIFY(!writeFile(working + text("/MaterialLibrary.json"), "damaged").isEmpty());
+    QVERIFY(!writeFile(working + text("/RelativeCoordinateSystemDate.json"), "damaged").isEmpty());
+    MaterialLibraries::instance()->loadProject();
+    CoordinateSystems::instance()->loadProject();
+    QVERIFY(Project::instance()->saveAs(file));
+    QVERIFY(Project::instance()->open(file));
+    QVERIFY(Project::instance()->save());
+    QCOMPARE(workingFile("MaterialLibrary.json"), QByteArray("damaged"));
+    QCOMPARE(workingFile("RelativeCoordinateSystemDate.json"), QByteArray("damaged"));
 }
 
 WORKBENCH_TEST_MAIN(tst_ProjectData)
