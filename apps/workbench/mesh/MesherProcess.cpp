@@ -32,6 +32,7 @@ MesherProcess::MesherProcess()
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &MesherProcess::read);
     connect(&m_process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this, &MesherProcess::finish);
     connect(&m_process, &QProcess::errorOccurred, this, &MesherProcess::failToStart);
+    connect(MeshManager::instance(), &MeshManager::signal_loadFinished, this, [this] { m_isResultRead = false; });
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &MesherProcess::cancel);
 }
 
@@ -146,6 +147,7 @@ void MesherProcess::finish(int exitCode, QProcess::ExitStatus status)
     Q_EMIT signal_finished(isMeshed);
     if (isMeshed) {
         MeshManager::instance()->openMesh(outputPath(), m_source);
+        m_isResultRead = true;
     }
 }
 

@@ -33,6 +33,8 @@ public:
     /// False, with a message, while a run is under way.
     bool mayStart() const;
     bool isRunning() const { return m_isRunning; }
+    /// Whether the mesh of a run that has ended is being read.
+    bool isResultRead() const { return m_isResultRead; }
     /// Ends the run; nothing is opened and nothing is told but signal_finished(false).
     void cancel();
 
@@ -69,6 +71,7 @@ private:
     QString m_geometryPath;
     MeshSource m_source;
     bool m_isRunning = false;
+    bool m_isResultRead = false;
     bool m_isCancelled = false;
 };
 

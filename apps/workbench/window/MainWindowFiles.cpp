@@ -42,6 +42,12 @@ QStringList localFiles(const QMimeData& data)
     return paths;
 }
 
+// A mesh that was just made is in no file of the user's while it is read.
+bool hasUnsaved()
+{
+    return Project::instance()->isModified() || MesherProcess::instance()->isResultRead();
+}
+
 } // namespace
 
 void MainWindow::openFile(const QString& path)
@@ -127,7 +133,7 @@ bool MainWindow::mayLeave()
     if (Project::instance()->isSaving() && !waitForSaving()) {
         return false;
     }
-    if (Project::instance()->isModified()) {
+    if (hasUnsaved()) {
         return mayDiscard();
     }
     if (!MesherProcess::instance()->isRunning()) {
@@ -137,7 +143,7 @@ bool MainWindow::mayLeave()
                          QMessageBox::Yes | QMessageBox::Cancel, this);
     question.setInformativeText(tr("Go on?"));
     // The mesh may have come while the question was open.
-    return question.exec() == QMessageBox::Yes && (!Project::instance()->isModified() || mayDiscard());
+    return question.exec() == QMessageBox::Yes && (!hasUnsaved() || mayDiscard());
 }
 
 QString MainWindow::stopsMeshing()
@@ -155,7 +161,11 @@ bool MainWindow::mayDiscard()
         question.setInformativeText(stopsMeshing());
     }
     const int answer = question.exec();
-    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save() && waitForSaving());
+    if (answer != QMessageBox::Save) {
+        return answer == QMessageBox::Discard;
+    }
+    // What came while it was saved is not in the file.
+    return save() && waitForSaving() && (!hasUnsaved() || mayDiscard());
 }
 
 void MainWindow::saveScreenshot()

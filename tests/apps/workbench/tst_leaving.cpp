@@ -8,6 +8,7 @@
 
 #include <QDialogButtonBox>
 #include <QPushButton>
+#include <QTimer>
 
 using namespace Workbench;
 
@@ -24,6 +25,9 @@ private Q_SLOTS:
     void closingStopsMeshing_data();
     void closingStopsMeshing();
     void closingSavesWhileReading();
+    void closingAsksForTheNewMesh_data();
+    void closingAsksForTheNewMesh();
+    void closingAsksForChangesWhileSaving();
     void closingWaitsForSaving();
     void closingAfterFailedSavingStays();
     void openingIsCancelled();
@@ -80,6 +84,71 @@ void tst_Leaving::closingSavesWhileReading()
     QVERIFY(m_window->close());
     QCOMPARE(m_dialogs.met(), 1);
     QVERIFY(waitForMesh());
+}
+
+void tst_Leaving::closingAsksForTheNewMesh_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("isClosed");
+    QTest::addColumn<bool>("isSaved");
+    QTest::newRow("save") << static_cast<int>(QMessageBox::Save) << true << true;
+    QTest::newRow("discard") << static_cast<int>(QMessageBox::Discard) << true << false;
+    QTest::newRow("cancel") << static_cast<int>(QMessageBox::Cancel) << false << false;
+}
+
+// The mesher is done, and its mesh is being read.
+void tst_Leaving::closingAsksForTheNewMesh()
+{
+    QFETCH(int, button);
+    QFETCH(bool, isClosed);
+    QFETCH(bool, isSaved);
+    QVERIFY(Project::instance()->saveAs(path("meshed.wbproj")));
+    const QByteArray mesh = QFile::encodeName(samplePath("bearing-housing.msh"));
+    const QString script =
+        writeFile(path("mesher"), "#!/bin/sh\nwhile [ \"$1\" != -o ]; do shift; done\ncp '" + mesh + "' \"$2\"\n");
+    QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    qputenv("WORKBENCH_GMSH", QFile::encodeName(script));
+    m_dialogs.press(static_cast<QMessageBox::StandardButton>(button));
+    // Closed at once when reading begins, so that it cannot be done.
+    bool isUnderWay = false;
+    bool isGone = false;
+    QObject context;
+    connect(MesherProcess::instance(), &MesherProcess::signal_finished, &context, [&] {
+        QTimer::singleShot(0, &context, [&] {
+            isUnderWay = MeshManager::instance()->isLoading() && !Project::instance()->isModified();
+            isGone = m_window->close();
+            context.setObjectName(QStringLiteral("closed"));
+        });
+    });
+    QVERIFY(MesherProcess::instance()->start(samplePath("slivers.geo")));
+    QVERIFY(QTest::qWaitFor([&context] { return !context.objectName().isEmpty(); }, 60000));
+    QVERIFY(isUnderWay);
+    QCOMPARE(m_dialogs.met(), 1);
+    QCOMPARE(isGone, isClosed);
+    QVERIFY(waitForMesh());
+    QVERIFY(!MesherProcess::instance()->isResultRead());
+    QVERIFY(Project::instance()->open(path("meshed.wbproj")));
+    QVERIFY(waitForMesh());
+    QCOMPARE(MeshManager::instance()->getElementCount(1), isSaved ? 6811 : 0);
+}
+
+void tst_Leaving::closingAsksForChangesWhileSaving()
+{
+    QVERIFY(Project::instance()->saveAs(path("changed.wbproj")));
+    GeometryManager::instance()->addSet(QStringLiteral("early"), {});
+    makeSlow();
+    QObject context;
+    connect(Project::instance(), &Project::signal_transferProgress, &context, [this] {
+        if (setNames().size() == 1) {
+            GeometryManager::instance()->addSet(QStringLiteral("late"), {});
+            m_dialogs.press(QMessageBox::Cancel);
+        }
+    });
+    m_dialogs.press(QMessageBox::Save);
+    QVERIFY(!m_window->close());
+    QCOMPARE(m_dialogs.met(), 2);
+    QCOMPARE(setNames().size(), 2);
+    QVERIFY(Project::instance()->isModified());
 }
 
 void tst_Leaving::closingWaitsForSaving()
