@@ -962,6 +962,13 @@ Version %1</translation>
     </message>
 </context>
 <context>
+    <name>Workbench::MeshLoader</name>
+    <message>
+        <source>it cannot be copied to %1</source>
+        <translation>it cannot be copied to %1</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::MeshManager</name>
     <message>
         <source>volume %1</source>
@@ -1140,6 +1147,10 @@ Version %1</translation>
     <message>
         <source>another one is being opened</source>
         <translation>another one is being opened</translation>
+    </message>
+    <message>
+        <source>No working directory can be made in %1. The project&apos;s working files lie in %2, where other programs may remove them.</source>
+        <translation>No working directory can be made in %1. The project&apos;s working files lie in %2, where other programs may remove them.</translation>
     </message>
 </context>
 <context>

@@ -962,6 +962,13 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Workbench::MeshLoader</name>
+    <message>
+        <source>it cannot be copied to %1</source>
+        <translation>无法复制到 %1</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::MeshManager</name>
     <message>
         <source>volume %1</source>
@@ -1140,6 +1147,10 @@ Version %1</source>
     <message>
         <source>another one is being opened</source>
         <translation>正在打开另一个工程</translation>
+    </message>
+    <message>
+        <source>No working directory can be made in %1. The project&apos;s working files lie in %2, where other programs may remove them.</source>
+        <translation>无法在 %1 中创建工作目录。项目的工作文件位于 %2，其他程序可能会将其删除。</translation>
     </message>
 </context>
 <context>

@@ -30,7 +30,7 @@ KernelReading readOne(const MeshLoader::Job& job, const KernelProgress& progress
         return readKernelMesh(job.source, progress);
     }
     if (!copyFile(job.source, job.copy)) {
-        return {{}, false, QStringLiteral("it cannot be copied to %1").arg(QDir::toNativeSeparators(job.copy))};
+        return {{}, false, MeshLoader::tr("it cannot be copied to %1").arg(QDir::toNativeSeparators(job.copy))};
     }
     KernelReading reading = readKernelMesh(job.copy, progress);
     if (!reading.mesh && QFileInfo(job.source) != QFileInfo(job.copy)) {

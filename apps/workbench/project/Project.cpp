@@ -13,9 +13,31 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <filesystem>
+#include <system_error>
+
 using BaseModule::IBaseSignal;
 
 namespace Workbench {
+namespace {
+
+// What was there before stays until all of it is copied.
+bool replaceByCopy(QFile& source, const QString& target)
+{
+    const QString beside = target + QStringLiteral(".new");
+    QFile::remove(beside);
+    std::error_code error;
+    if (source.copy(beside)) {
+        std::filesystem::rename(QFile::encodeName(beside).constData(), QFile::encodeName(target).constData(), error);
+        if (!error) {
+            return true;
+        }
+    }
+    QFile::remove(beside);
+    return false;
+}
+
+} // namespace
 
 QString Project::name() const
 {
@@ -86,6 +108,9 @@ bool Project::fail(const QString& text, const QString& path, const QString& prob
 
 bool Project::takeGeometry(const QString& path)
 {
+    if (!m_directory) {
+        return fail(tr("The geometry %1 cannot be opened: %2"), path, tr("no working directory can be made"));
+    }
     const QString copy = ProjectFiles::geometrySource(m_directory->path(), path);
     QFile source(path);
     if (!QFileInfo(path).isFile() || !source.open(QIODevice::ReadOnly)) {
@@ -94,11 +119,11 @@ bool Project::takeGeometry(const QString& path)
     if (QFileInfo(path) == QFileInfo(copy)) {
         return true;
     }
-    if (!geometryName().isEmpty()) {
-        QFile::remove(geometryPath());
-    }
-    if (!source.copy(copy)) {
+    if (!replaceByCopy(source, copy)) {
         return fail(tr("The geometry %1 cannot be opened: %2"), path, source.errorString());
+    }
+    if (!geometryName().isEmpty() && geometryPath() != copy) {
+        QFile::remove(geometryPath());
     }
     m_geometry = {QFileInfo(path).fileName(), QFileInfo(path).absoluteFilePath()};
     noteChange();
@@ -107,7 +132,8 @@ bool Project::takeGeometry(const QString& path)
 
 QString Project::geometryPath() const
 {
-    return geometryName().isEmpty() ? QString() : ProjectFiles::geometrySource(m_directory->path(), geometryName());
+    return geometryName().isEmpty() || !m_directory ? QString()
+                                                    : ProjectFiles::geometrySource(m_directory->path(), geometryName());
 }
 
 } // namespace Workbench

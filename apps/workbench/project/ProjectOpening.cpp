@@ -17,14 +17,35 @@
 #include <basemodule/IBaseSignal.h>
 #include <datamanager/selection/SelectedDataManager.h>
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTimer>
+
+#include <utility>
 
 using BaseModule::GlobalHelper;
 using BaseModule::IBaseSignal;
 using DataManager::SelectedDataManager;
 
 namespace Workbench {
+namespace {
+
+// Once, and when there is a window that shows it.
+void tellPlace(const QString& directory)
+{
+    static bool isTold = false;
+    if (!std::exchange(isTold, true)) {
+        const QString text =
+            Project::tr("No working directory can be made in %1. The project's working files lie in "
+                        "%2, where other programs may remove them.")
+                .arg(QDir::toNativeSeparators(WorkingDirectory::parentPath()), QDir::toNativeSeparators(directory));
+        IBaseSignal* signal = IBaseSignal::getInstance();
+        QTimer::singleShot(0, signal, [signal, text] { Q_EMIT signal->signal_showMessageType(2, text); });
+    }
+}
+
+} // namespace
 
 Project* Project::instance()
 {
@@ -37,7 +58,14 @@ Project::Project()
     SelectedDataManager::getInstance()->init();
     SelectedDataManager::getInstance()->setHighLightCheckEnable(true);
     watchManagers();
-    create();
+    if (!create()) {
+        // Again when there is a window that tells what is wrong.
+        QTimer::singleShot(0, this, [this] {
+            if (!m_directory) {
+                create();
+            }
+        });
+    }
     // The first access makes the global system, which must be there before any file is read.
     m_isLoading = true;
     CoordinateSystems::instance();
@@ -118,6 +146,9 @@ void Project::adopt(std::unique_ptr<WorkingDirectory> directory)
     m_watcher.addPath(m_directory->path());
     GlobalHelper::setProjectTempIODir(m_directory->path());
     m_isLoading = false;
+    if (m_directory->isElsewhere()) {
+        tellPlace(m_directory->path());
+    }
 }
 
 void Project::unload()
@@ -152,8 +183,10 @@ void Project::close()
     m_isLoading = true;
     unload();
     GlobalHelper::setProjectTempIODir(QString());
-    m_watcher.removePath(m_directory->path());
-    m_directory.reset();
+    if (m_directory) {
+        m_watcher.removePath(m_directory->path());
+        m_directory.reset();
+    }
     m_path.clear();
 }
 

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QUuid>
 
 namespace Workbench {
@@ -30,6 +31,18 @@ WorkingDirectory::WorkingDirectory()
     m_isValid = QDir().mkpath(parentPath());
     m_lock = lockOf(m_path);
     m_isValid = m_isValid && m_lock->tryLock(0) && QDir().mkdir(m_path);
+    if (!m_isValid) {
+        makeElsewhere();
+    }
+}
+
+void WorkingDirectory::makeElsewhere()
+{
+    m_lock.reset();
+    QTemporaryDir directory(QDir::tempPath() + QStringLiteral("/workbench-XXXXXX"));
+    directory.setAutoRemove(false);
+    m_path = directory.path();
+    m_isValid = m_isElsewhere = directory.isValid();
 }
 
 WorkingDirectory::~WorkingDirectory()

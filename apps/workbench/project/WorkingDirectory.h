@@ -16,13 +16,16 @@ namespace Workbench {
 class WorkingDirectory
 {
 public:
-    /// Makes a new, empty one below the user's cache directory; isValid() tells whether that succeeded.
+    /// Makes a new, empty one below the user's cache directory or, when that cannot be used, in that for temporary
+    /// files; isValid() tells whether that succeeded.
     WorkingDirectory();
     ~WorkingDirectory();
     WorkingDirectory(const WorkingDirectory&) = delete;
     WorkingDirectory& operator=(const WorkingDirectory&) = delete;
 
     bool isValid() const { return m_isValid; }
+    /// Whether it is in the directory for temporary files. There nothing removes it after the program was killed.
+    bool isElsewhere() const { return m_isElsewhere; }
     /// Without a trailing separator.
     QString path() const { return m_path; }
 
@@ -32,9 +35,12 @@ public:
     static void removeAbandoned();
 
 private:
+    void makeElsewhere();
+
     QString m_path;
     std::unique_ptr<QLockFile> m_lock;
     bool m_isValid = false;
+    bool m_isElsewhere = false;
 };
 
 } // namespace Workbench

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 DataManager contributors
 // SPDX-License-Identifier: BSD-3-Clause
 
+#include "FileSizeLimit.h"
 #include "Samples.h"
 #include "WindowTest.h"
 
@@ -19,12 +20,42 @@
 
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTranslator>
 
 using BaseModule::GlobalHelper;
 using DataManager::MaterialLibraryManager;
 using DataManager::RelativeCoordinateSystem;
 using DataManager::RelativeCoordinateSystemDate;
 using namespace Workbench;
+
+/// Marks what the loader of meshes says.
+class LoaderTranslator : public QTranslator
+{
+public:
+    QString translate(const char* context, const char* text, const char*, int) const override
+    {
+        return qstrcmp(context, "Workbench::MeshLoader") == 0 ? QStringLiteral("<") + QString::fromLatin1(text)
+                                                              : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+/// Another value of an environment variable while it lives.
+class OtherEnvironment
+{
+public:
+    OtherEnvironment(const char* name, const QString& value) : m_name(name), m_before(qgetenv(name))
+    {
+        qputenv(name, QFile::encodeName(value));
+    }
+    ~OtherEnvironment() { m_before.isNull() ? qunsetenv(m_name) : qputenv(m_name, m_before); }
+    OtherEnvironment(const OtherEnvironment&) = delete;
+    OtherEnvironment& operator=(const OtherEnvironment&) = delete;
+
+private:
+    const char* m_name;
+    QByteArray m_before;
+};
 
 class tst_Project : public QObject
 {
@@ -46,6 +77,10 @@ private Q_SLOTS:
     void refusesNamesOfOtherPlaces();
     void cancelledReadingKeepsTheMeshFile();
     void geometryTravelsAlong();
+    void uncopiedGeometryKeepsTheOld();
+    void uncopiedMeshIsToldInTheLanguage();
+    void worksWithoutCacheDirectory();
+    void survivesWithoutDirectory();
     void recentProjects();
 
 private:
@@ -312,6 +347,81 @@ void tst_Project::geometryTravelsAlong()
     QVERIFY(!Project::instance()->takeGeometry(path("absent.step")));
     QCOMPARE(messages.list.size(), 1);
     QCOMPARE(Project::instance()->geometryName(), QStringLiteral("slivers.geo"));
+}
+
+void tst_Project::uncopiedGeometryKeepsTheOld()
+{
+    QVERIFY(Project::instance()->takeGeometry(samplePath("slivers.geo")));
+    writeFile(path("large.geo"), QByteArray(1 << 20, ' '));
+    writeFile(path("large.step"), QByteArray(1 << 20, ' '));
+    Messages messages;
+    {
+        const FileSizeLimit limit(4096);
+        QVERIFY(!Project::instance()->takeGeometry(path("large.geo")));
+        QVERIFY(!Project::instance()->takeGeometry(path("large.step")));
+    }
+    QCOMPARE(messages.list.size(), 2);
+    QCOMPARE(Project::instance()->geometryName(), QStringLiteral("slivers.geo"));
+    QCOMPARE(QFileInfo(Project::instance()->geometryPath()).size(), QFileInfo(samplePath("slivers.geo")).size());
+    // Nothing lies about, and what can be copied takes its place.
+    const QDir working(GlobalHelper::getProjectTempIODir());
+    const QStringList pattern{QStringLiteral("geometry-source*")};
+    QCOMPARE(working.entryList(pattern), QStringList{QStringLiteral("geometry-source.geo")});
+    QVERIFY(Project::instance()->takeGeometry(path("large.step")));
+    QCOMPARE(working.entryList(pattern), QStringList{QStringLiteral("geometry-source.step")});
+    QVERIFY(Project::instance()->takeGeometry(samplePath("slivers.geo")));
+    QCOMPARE(working.entryList(pattern), QStringList{QStringLiteral("geometry-source.geo")});
+}
+
+void tst_Project::uncopiedMeshIsToldInTheLanguage()
+{
+    const QDir working(GlobalHelper::getProjectTempIODir());
+    QVERIFY(working.mkpath(QStringLiteral("mesh-1.msh/inside")));
+    LoaderTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    Messages messages;
+    QCOMPARE(openMesh(samplePath("slivers.msh")), 0);
+    QCOMPARE(messages.list.size(), 1);
+    QVERIFY2(messages.list.first().contains(QStringLiteral("<it cannot be copied to ")),
+             qPrintable(messages.list.first()));
+}
+
+void tst_Project::worksWithoutCacheDirectory()
+{
+    const OtherEnvironment cache("XDG_CACHE_HOME", writeFile(path("no-directory"), "x"));
+    const OtherEnvironment temporary("TMPDIR", m_directory.path());
+    Messages messages;
+    QVERIFY(Project::instance()->create());
+    const QString directory = GlobalHelper::getProjectTempIODir();
+    QVERIFY2(directory.startsWith(m_directory.path()), qPrintable(directory));
+    QVERIFY(messages.list.isEmpty()); // there may be no window yet
+    QVERIFY(QTest::qWaitFor([&messages] { return !messages.list.isEmpty(); }));
+    QVERIFY2(messages.list.first().contains(QDir::toNativeSeparators(directory)), qPrintable(messages.list.first()));
+    createMaterial(3);
+    QVERIFY(Project::instance()->takeGeometry(samplePath("slivers.geo")));
+    QVERIFY(Project::instance()->saveAs(path("elsewhere.wbproj")));
+    QVERIFY(Project::instance()->open(path("elsewhere.wbproj")));
+    QCOMPARE(materialValue(), 3.0);
+    QVERIFY(!QFileInfo::exists(directory));
+    QCoreApplication::processEvents();
+    QCOMPARE(messages.list.size(), 1);
+}
+
+void tst_Project::survivesWithoutDirectory()
+{
+    QVERIFY(Project::instance()->takeGeometry(samplePath("slivers.geo")));
+    Project::instance()->close();
+    const OtherEnvironment cache("XDG_CACHE_HOME", writeFile(path("no-directory"), "x"));
+    const OtherEnvironment temporary("TMPDIR", path("no-directory"));
+    Messages messages;
+    QVERIFY(!Project::instance()->create());
+    QCOMPARE(Project::instance()->geometryPath(), QString());
+    QVERIFY(!Project::instance()->takeGeometry(samplePath("slivers.geo")));
+    QVERIFY(!Project::instance()->saveAs(path("nothing.wbproj")));
+    QVERIFY(!Project::instance()->open(path("geometry.wbproj")));
+    Project::instance()->close();
+    QCOMPARE(messages.list.size(), 4);
+    QVERIFY(!QFileInfo::exists(path("nothing.wbproj")));
 }
 
 void tst_Project::recentProjects()
