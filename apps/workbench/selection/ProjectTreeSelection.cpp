@@ -6,6 +6,7 @@
 #include <workbench/geometry/GeometryManager.h>
 #include <workbench/mesh/MeshManager.h>
 #include <workbench/selection/NamedSelections.h>
+#include <workbench/selection/SelectionUndo.h>
 
 #include <datamanager/selection/SelectedDataManager.h>
 
@@ -59,6 +60,7 @@ void ProjectTree::select()
         return;
     }
     const QScopedValueRollback<bool> updating(m_isUpdating, true);
+    const SelectionUndo::Burst oneStep;
     const auto model = static_cast<BaseModule::SelectModel>(modelOf(current));
     SelectedDataManager* selection = SelectedDataManager::getInstance();
     if (selection->getSelectModel() != model) {

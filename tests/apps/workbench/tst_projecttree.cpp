@@ -45,6 +45,8 @@ private Q_SLOTS:
     void setOfVolumes();
     void setOfFaces();
     void setIsSelectedInOneStep();
+    void clickIsOneStepOfUndo_data();
+    void clickIsOneStepOfUndo();
     void setSelectsWhatIsThere();
     void groupOfElements();
     void setsTravelWithTheProject();
@@ -276,6 +278,37 @@ void tst_ProjectTree::setIsSelectedInOneStep()
     // The same again is no step.
     menu(QStringLiteral("pair"), "Select");
     QCOMPARE(SelectionUndo::instance()->stack()->count(), 1);
+}
+
+void tst_ProjectTree::clickIsOneStepOfUndo_data()
+{
+    QTest::addColumn<int>("model");
+    QTest::newRow("of the same kind") << static_cast<int>(BaseModule::GeometryComponent);
+    QTest::newRow("of another kind") << static_cast<int>(BaseModule::MeshElement);
+}
+
+// Also where it takes the place of what was selected: deselecting that is no step of its own.
+void tst_ProjectTree::clickIsOneStepOfUndo()
+{
+    QFETCH(int, model);
+    const auto previous = static_cast<BaseModule::SelectModel>(model);
+    const int secondID =
+        previous == BaseModule::MeshElement ? MeshManager::instance()->mesh(1)->elementNumbers.number(0) : -1;
+    select(previous, {{1, secondID}});
+    SelectionUndo::instance()->forget();
+    QTest::qWait(20);
+    auto* tree = m_tree->findChild<QTreeWidget*>();
+    tree->scrollToItem(line(QStringLiteral("bush")));
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      tree->visualItemRect(line(QStringLiteral("bush"))).center());
+    QCOMPARE(selected(BaseModule::GeometryComponent), (Pairs{{2, -1}}));
+    QUndoStack* steps = SelectionUndo::instance()->stack();
+    QCOMPARE(steps->count(), 1);
+    steps->undo();
+    QCOMPARE(selected(previous), (Pairs{{1, secondID}}));
+    QCOMPARE(SelectedDataManager::getInstance()->getDataCount(), 1);
+    steps->redo();
+    QCOMPARE(selected(BaseModule::GeometryComponent), (Pairs{{2, -1}}));
 }
 
 void tst_ProjectTree::setSelectsWhatIsThere()
