@@ -9,8 +9,11 @@
 #include <workbench/coordinates/CoordinateRegistry.h>
 
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
+#include <datamanager/selection/SelectedDataManager.h>
 
 #include <basemodule/GlobalHelper.h>
+#include <basemodule/IBaseSignal.h>
+#include <basemodule/SelectModel.h>
 
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -21,6 +24,8 @@ namespace Workbench {
 
 using BaseModule::GlobalHelper;
 using DataManager::RelativeCoordinateSystem;
+using DataManager::RelativeCoordinateSystemDate;
+using DataManager::SelectedDataManager;
 
 namespace {
 
@@ -80,6 +85,29 @@ int nextID()
     return highest + 1;
 }
 
+// Another system may get the identifier later.
+void deselect(const QList<int>& ids)
+{
+    SelectedDataManager* const selection = SelectedDataManager::getInstance();
+    QList<QPair<int, int>> gone;
+    for (const QPair<int, int>& item : selection->getSelectedDataBySelectedModel(BaseModule::CoordinateAxes)) {
+        if (ids.contains(item.first)) {
+            gone.append(item);
+        }
+    }
+    if (!gone.isEmpty()) {
+        selection->removeSelectedTargetList(BaseModule::CoordinateAxes, gone);
+    }
+}
+
+// What is gone cannot be picked.
+void checkHighLight(bool& isAllowed, int selectModel, int id)
+{
+    if (selectModel == BaseModule::CoordinateAxes) {
+        isAllowed = isAllowed && coordinateRegistry().getCoordinateSystemByID(id) != nullptr;
+    }
+}
+
 } // namespace
 
 CoordinateSystems* CoordinateSystems::instance()
@@ -93,6 +121,9 @@ CoordinateSystems::CoordinateSystems() : m_axes(new CoordinateAxes(this))
     if (coordinateRegistry().getRelativeCoordinateSystemDateCount() == 0) {
         appendGlobalSystem();
     }
+    connect(&coordinateRegistry(), &RelativeCoordinateSystemDate::signal_dataDeleted, this, &deselect);
+    connect(BaseModule::IBaseSignal::getInstance(), &BaseModule::IBaseSignal::signal_checkHighLight, this,
+            &checkHighLight);
     tellChange();
 }
 

@@ -3,7 +3,10 @@
 
 #include "CoordinateViewFixture.h"
 
+#include <basemodule/IBaseSignal.h>
+#include <basemodule/SelectModel.h>
 #include <basewidget/FixedPixelSizeAxesActor.h>
+#include <datamanager/selection/SelectedDataManager.h>
 
 #include <QPointer>
 #include <QtMath>
@@ -69,6 +72,7 @@ private Q_SLOTS:
     void leavesTheGlobalSystemAlone();
     void removesWithWhatIsBelow();
     void removesSharedDependentsOnce();
+    void deselectsWhatGoes();
     void destroysWhatItRemoved();
     void destroysWhatOthersRemoved();
     void takesCareOfSystemsOfOthers();
@@ -226,6 +230,33 @@ void tst_CoordinateSystems::removesSharedDependentsOnce()
     RegistryLog log;
     Fixture::systems().remove({2, 1, 1});
     QCOMPARE(log.take().first(), text("deleted [1,2] | [0,1,2] at 0"));
+}
+
+// A later system may get its identifier, and must not be selected from the start.
+void tst_CoordinateSystems::deselectsWhatGoes()
+{
+    Fixture::create(0, text("Table"));
+    Fixture::create(0, text("Other"));
+    const auto isAllowed = [](int selectModel, int id) {
+        bool isPickable = true;
+        Q_EMIT BaseModule::IBaseSignal::getInstance()->signal_checkHighLight(isPickable, selectModel, id, -1);
+        return isPickable;
+    };
+    auto* const selection = DataManager::SelectedDataManager::getInstance();
+    using Pairs = QList<QPair<int, int>>;
+    selection->addSelectedTargetList(BaseModule::CoordinateAxes, {{0, -1}, {1, -1}, {2, -1}});
+    selection->addSelectedTargetList(BaseModule::MeshNode, {{2, 7}});
+    QVERIFY(isAllowed(BaseModule::CoordinateAxes, 2));
+    Fixture::systems().remove({2});
+    QCOMPARE(selection->getSelectedDataBySelectedModel(BaseModule::CoordinateAxes), (Pairs{{0, -1}, {1, -1}}));
+    QVERIFY(!isAllowed(BaseModule::CoordinateAxes, 2));
+    Fixture::Registry::getInstance()->removeCoordinateSystemByIndex(1);
+    QCOMPARE(selection->getSelectedDataBySelectedModel(BaseModule::CoordinateAxes), (Pairs{{0, -1}}));
+    QVERIFY(isAllowed(BaseModule::CoordinateAxes, 0));
+    // Things of other kinds have other identifiers.
+    QVERIFY(isAllowed(BaseModule::GeometryBody, 2));
+    QCOMPARE(selection->getSelectedDataBySelectedModel(BaseModule::MeshNode), (Pairs{{2, 7}}));
+    selection->clearAllSelectedTarget();
 }
 
 void tst_CoordinateSystems::destroysWhatItRemoved()
