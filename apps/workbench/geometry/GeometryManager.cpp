@@ -250,9 +250,12 @@ void GeometryManager::dropMaterial(int materialID)
     setMaterialID(findComponentsOfMaterial(materialID), 0);
 }
 
-// What is hidden or gone cannot be picked.
+// What is hidden or gone cannot be picked; nor can elements of a hidden volume.
 void GeometryManager::checkHighLight(bool& isAllowed, int selectModel, int firstID, int secondID) const
 {
+    if (selectModel == BaseModule::MeshElement) {
+        isAllowed = isAllowed && isElementShown(firstID, secondID);
+    }
     if (selectModel != BaseModule::GeometryComponent && selectModel != BaseModule::GeometryFace) {
         return;
     }

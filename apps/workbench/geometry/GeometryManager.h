@@ -115,6 +115,7 @@ private:
     QString freeName(const QString& wanted);
     void removeFromSelection(const QList<int>& componentIDList);
     void dropMaterial(int materialID);
+    bool isElementShown(int kernelID, int elementID) const;
     void checkHighLight(bool& isAllowed, int selectModel, int firstID, int secondID) const;
 
     void takeKernels(const QList<int>& kernelIDList);

@@ -64,6 +64,13 @@ int GeometryManager::componentOfVolume(int kernelID, int volumeTag) const
     return 0;
 }
 
+bool GeometryManager::isElementShown(int kernelID, int elementID) const
+{
+    const QSharedPointer<const KernelMesh> mesh = MeshManager::instance()->mesh(kernelID);
+    const int place = mesh == nullptr ? -1 : mesh->elementNumbers.place(elementID);
+    return place >= 0 && isComponentShown(componentOfVolume(kernelID, mesh->report.physicalTag(place)));
+}
+
 QList<int> GeometryManager::getFaces(int componentID) const
 {
     return m_components.value(componentID).faces.keys();

@@ -135,7 +135,18 @@ void MeshManager::showKernels(const QList<int>& kernelIDList, bool isShow)
             m_kernels[kernelID].isShown = isShow;
         }
     }
+    if (!isShow) {
+        removeFromSelection(kernelIDList);
+    }
     Q_EMIT signal_visibilityChanged();
+}
+
+void MeshManager::removeFromSelection(const QList<int>& kernelIDList)
+{
+    SelectedDataManager* selection = SelectedDataManager::getInstance();
+    for (const auto model : {BaseModule::MeshNode, BaseModule::MeshElement, BaseModule::MeshGroup}) {
+        selection->removeSelectedTargets(model, kernelIDList);
+    }
 }
 
 bool MeshManager::isKernelShown(int kernelID) const
@@ -210,7 +221,8 @@ QVector<double> MeshManager::getBoundingBox(const QList<int>& kernelIDList)
     return box;
 }
 
-// What is gone cannot be picked, and elements and groups not while they are hidden.
+// What is gone cannot be picked, and elements and groups not while they are hidden. Of elements in hidden volumes the
+// geometry's manager says so.
 void MeshManager::checkHighLight(bool& isAllowed, int selectModel, int firstID, int secondID) const
 {
     const Kernel* found = kernel(firstID);
@@ -218,7 +230,8 @@ void MeshManager::checkHighLight(bool& isAllowed, int selectModel, int firstID, 
     if (selectModel == BaseModule::MeshNode) {
         isAllowed = isAllowed && isShown && secondID >= 1 && secondID <= found->mesh->report.nodeCount();
     } else if (selectModel == BaseModule::MeshElement) {
-        isAllowed = isAllowed && isShown && found->mesh->elementNumbers.place(secondID) >= 0;
+        const int place = isShown ? found->mesh->elementNumbers.place(secondID) : -1;
+        isAllowed = isAllowed && place >= 0 && !isInHiddenGroup(*found, place);
     } else if (selectModel == BaseModule::MeshGroup) {
         isAllowed = isAllowed && isShown && isGroupShown(firstID, secondID);
     }

@@ -154,6 +154,9 @@ private:
     bool isNameTaken(const QString& name, int kernelID) const;
     bool isGroupNameTaken(const Kernel& kernel, const QString& name, int groupID) const;
     const Group* group(int kernelID, int groupID) const;
+    /// An element, by its place.
+    static bool isInHiddenGroup(const Kernel& kernel, int place);
+    static void removeFromSelection(const QList<int>& kernelIDList);
     void checkHighLight(bool& isAllowed, int selectModel, int firstID, int secondID) const;
 
     void insertKernels(const QMap<int, Kernel>& kernels);

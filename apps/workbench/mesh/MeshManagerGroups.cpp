@@ -105,10 +105,15 @@ int MeshManager::removeGroups(const QMultiMap<int, int>& kernel2GroupMap)
 
 void MeshManager::showGroups(const QMultiMap<int, int>& kernel2GroupMap, bool isShow)
 {
+    QList<QPair<int, int>> items;
     for (auto it = kernel2GroupMap.cbegin(); it != kernel2GroupMap.cend(); ++it) {
         if (group(it.key(), it.value()) != nullptr) {
             m_kernels[it.key()].groups[it.value()].isShown = isShow;
+            items.append({it.key(), it.value()});
         }
+    }
+    if (!isShow) {
+        SelectedDataManager::getInstance()->removeSelectedTargetList(BaseModule::MeshGroup, items);
     }
     Q_EMIT signal_visibilityChanged();
 }
@@ -167,6 +172,15 @@ std::vector<char> MeshManager::shownElements(int kernelID) const
         }
     }
     return shown;
+}
+
+bool MeshManager::isInHiddenGroup(const Kernel& kernel, int place)
+{
+    const int tag = kernel.mesh->report.physicalTag(place);
+    return std::any_of(kernel.groups.cbegin(), kernel.groups.cend(), [place, tag](const Group& group) {
+        return !group.isShown && ((group.physicalTag != 0 && group.physicalTag == tag) ||
+                                  std::binary_search(group.elements.begin(), group.elements.end(), place));
+    });
 }
 
 void MeshManager::makeFileGroups(Kernel& kernel)

@@ -49,43 +49,54 @@ vtkSmartPointer<vtkActor> makeActor()
     return actor;
 }
 
-// Elements of the highlighted groups, marked.
+// Elements of the highlighted groups, marked where they are shown.
 std::vector<char> groupElements(int kernelID, const KernelMesh& mesh, const HighlightState& state)
 {
+    const MeshManager* meshes = MeshManager::instance();
+    const std::vector<char> shown = meshes->shownElements(kernelID);
     std::vector<char> marked(static_cast<std::size_t>(mesh.report.elementCount()), 0);
     for (int groupID : state.items(BaseModule::MeshGroup).secondsOf(kernelID)) {
-        for (int place : MeshManager::instance()->getGroupElements(kernelID, groupID)) {
-            marked[static_cast<std::size_t>(place)] = 1;
+        for (int place : meshes->getGroupElements(kernelID, groupID)) {
+            marked[static_cast<std::size_t>(place)] = shown[static_cast<std::size_t>(place)];
         }
     }
     return marked;
 }
 
-// Which patches of the mesh are highlighted, as faces or with their volume.
-std::vector<char> markedPatches(int kernelID, const KernelMesh& mesh, const HighlightState& state)
+// What is known of the patches of a mesh, by their places.
+struct PatchMarks
+{
+    std::vector<char> isShown;
+    /// As faces or with their volume.
+    std::vector<char> isHighlighted;
+};
+
+PatchMarks markedPatches(int kernelID, const KernelMesh& mesh, const HighlightState& state)
 {
     const GeometryManager* geometry = GeometryManager::instance();
     const ItemSet& volumes = state.items(BaseModule::GeometryComponent);
     const ItemSet& faces = state.items(BaseModule::GeometryFace);
-    std::vector<char> marked;
+    PatchMarks marks;
     for (const FacePatch& patch : mesh.patches) {
         const int componentID = geometry->componentOfVolume(kernelID, patch.volumeTag);
         const bool isShown = geometry->isComponentShown(componentID);
-        marked.push_back(isShown &&
-                         (volumes.contains({componentID, -1}) || faces.contains({componentID, patch.faceID})));
+        marks.isShown.push_back(isShown);
+        marks.isHighlighted.push_back(volumes.contains({componentID, -1}) ||
+                                      faces.contains({componentID, patch.faceID}));
     }
-    return marked;
+    return marks;
 }
 
 Corners surfaceCorners(int kernelID, const KernelMesh& mesh, const HighlightState& state)
 {
     const bool areGroups = !state.items(BaseModule::MeshGroup).isEmpty();
     const std::vector<char> elements = areGroups ? groupElements(kernelID, mesh, state) : std::vector<char>();
-    const std::vector<char> patches = markedPatches(kernelID, mesh, state);
+    const PatchMarks patches = markedPatches(kernelID, mesh, state);
     Corners corners;
     for (const BoundaryFace& face : mesh.faces) {
-        if (patches[static_cast<std::size_t>(face.patch)] != 0 ||
-            (areGroups && elements[static_cast<std::size_t>(face.element)] != 0)) {
+        const auto patch = static_cast<std::size_t>(face.patch);
+        const bool isInGroup = areGroups && elements[static_cast<std::size_t>(face.element)] != 0;
+        if (patches.isShown[patch] != 0 && (patches.isHighlighted[patch] != 0 || isInGroup)) {
             corners.push_back(face.nodes);
         }
     }

@@ -45,6 +45,8 @@ private Q_SLOTS:
     void earlierProjectsKeepTheirVolumes();
     void deletedMaterialIsDropped();
     void hiddenCannotBePicked();
+    void hiddenElementsCannotBePicked();
+    void hidingDeselects();
     void geometrySets();
     void geometrySurvivesAFile();
 
@@ -432,6 +434,67 @@ void tst_Managers::hiddenCannotBePicked()
         selection->clickViewObject(kernel + 1, good);
         QCOMPARE(selection->getDataCount(), 1);
     }
+}
+
+void tst_Managers::hiddenElementsCannotBePicked()
+{
+    MeshManager* meshes = MeshManager::instance();
+    SelectedDataManager* selection = SelectedDataManager::getInstance();
+    const int kernel = openMesh(samplePath("bearing-housing.msh"));
+    const auto mesh = meshes->mesh(kernel);
+    const int element = mesh->elementNumbers.number(0);
+    const auto isPicked = [&] {
+        selection->clearAllSelectedTarget();
+        selection->clickViewObject(kernel, element);
+        return selection->getDataCount() == 1;
+    };
+    selection->setSelectModelInMainWindow(BaseModule::MeshElement);
+    QVERIFY(isPicked());
+    const int own = meshes->addGroup(kernel, QStringLiteral("own"), {element});
+    int ofFile = 0;
+    for (const int group : meshes->findGroups(kernel, QString())) {
+        ofFile = meshes->getGroupPhysicalTag(kernel, group) == mesh->report.physicalTag(0) ? group : ofFile;
+    }
+    for (const int group : {own, ofFile}) {
+        meshes->showGroups({{kernel, group}}, false);
+        QVERIFY(!isPicked());
+        meshes->showGroups({{kernel, group}}, true);
+        QVERIFY(isPicked());
+    }
+    GeometryManager* geometry = GeometryManager::instance();
+    const int component = geometry->componentOfVolume(kernel, mesh->report.physicalTag(0));
+    QVERIFY(component > 0);
+    geometry->showComponents({component}, false);
+    QVERIFY(!isPicked());
+    geometry->showComponents({component}, true);
+    QVERIFY(isPicked());
+}
+
+void tst_Managers::hidingDeselects()
+{
+    MeshManager* meshes = MeshManager::instance();
+    SelectedDataManager* selection = SelectedDataManager::getInstance();
+    const int kernel = openMesh(samplePath("bearing-housing.msh"));
+    using Pairs = QList<QPair<int, int>>;
+    const auto selected = [selection](BaseModule::SelectModel model) {
+        return selection->getSelectedDataBySelectedModel(model);
+    };
+    selection->addSelectedTargetList(BaseModule::MeshGroup, {{kernel, 1}, {kernel, 2}});
+    meshes->showGroups({{kernel, 1}, {kernel, 77}}, false);
+    QCOMPARE(selected(BaseModule::MeshGroup), (Pairs{{kernel, 2}}));
+    meshes->showGroups({{kernel, 1}}, true);
+    QCOMPARE(selected(BaseModule::MeshGroup), (Pairs{{kernel, 2}}));
+    selection->addSelectedTargetList(BaseModule::MeshNode, {{kernel, 1}, {kernel + 1, 1}});
+    selection->addSelectedTargetList(BaseModule::MeshElement, {{kernel, 1000}});
+    selection->addSelectedTargetList(BaseModule::GeometryComponent, {{kernel, -1}});
+    meshes->showKernels({kernel}, true);
+    QCOMPARE(selection->getDataCount(), 5);
+    meshes->showKernels({kernel}, false);
+    QVERIFY(selected(BaseModule::MeshGroup).isEmpty());
+    QVERIFY(selected(BaseModule::MeshElement).isEmpty());
+    QCOMPARE(selected(BaseModule::MeshNode), (Pairs{{kernel + 1, 1}}));
+    QCOMPARE(selection->getDataCount(), 2);
+    selection->clearAllSelectedTarget();
 }
 
 void tst_Managers::geometrySets()

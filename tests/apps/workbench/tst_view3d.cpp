@@ -48,6 +48,7 @@ private Q_SLOTS:
     void mouseMakesOneStepOfUndo_data();
     void mouseMakesOneStepOfUndo();
     void hiddenIsNotPicked();
+    void hiddenGroupIsNotDrawn();
     void keysChangeTheMode();
     void lostFocusReleasesKeys();
     void dragMovesTheCamera_data();
@@ -62,7 +63,8 @@ private Q_SLOTS:
 private:
     QImage picture();
     QPoint centre() const { return m_canvas->rect().center(); }
-    void drag(const QPoint& from, const QPoint& to, Qt::MouseButton button = Qt::LeftButton);
+    void drag(const QPoint& from, const QPoint& to, Qt::MouseButton button = Qt::LeftButton,
+              Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void settle() { QTest::qWait(60); }
     static int countOf(BaseModule::SelectModel model)
     {
@@ -136,14 +138,14 @@ int tst_View3D::pixelsNear(const QImage& image, const QColor& colour)
     return count;
 }
 
-void tst_View3D::drag(const QPoint& from, const QPoint& to, Qt::MouseButton button)
+void tst_View3D::drag(const QPoint& from, const QPoint& to, Qt::MouseButton button, Qt::KeyboardModifiers modifiers)
 {
-    QTest::mousePress(m_canvas, button, Qt::NoModifier, from);
+    QTest::mousePress(m_canvas, button, modifiers, from);
     for (int step = 1; step <= 4; ++step) {
-        QMouseEvent move(QEvent::MouseMove, from + (to - from) * step / 4, Qt::NoButton, button, Qt::NoModifier);
+        QMouseEvent move(QEvent::MouseMove, from + (to - from) * step / 4, Qt::NoButton, button, modifiers);
         QApplication::sendEvent(m_canvas, &move);
     }
-    QTest::mouseRelease(m_canvas, button, Qt::NoModifier, to);
+    QTest::mouseRelease(m_canvas, button, modifiers, to);
 }
 
 void tst_View3D::clickSelects_data()
@@ -273,6 +275,35 @@ void tst_View3D::hiddenIsNotPicked()
     settle();
     QTest::mouseClick(m_canvas, Qt::LeftButton, Qt::NoModifier, centre());
     QCOMPARE(SelectedDataManager::getInstance()->getDataCount(), 1);
+}
+
+// Whether it is still selected or, in the tree, selected while it is hidden.
+void tst_View3D::hiddenGroupIsNotDrawn()
+{
+    const QColor highlight(255, 140, 0);
+    MeshManager* meshes = MeshManager::instance();
+    GeometryManager* geometry = GeometryManager::instance();
+    SelectedDataManager* selection = SelectedDataManager::getInstance();
+    const int before = pixelsNear(picture(), highlight);
+    selection->setSelectModelInMainWindow(BaseModule::MeshGroup);
+    QMultiMap<int, int> groups;
+    QList<QPair<int, int>> pairs;
+    for (const int group : meshes->findGroups(m_kernel, QString())) {
+        groups.insert(m_kernel, group);
+        pairs.append({m_kernel, group});
+    }
+    selection->addSelectedTargetList(BaseModule::MeshGroup, pairs);
+    QVERIFY(pixelsNear(picture(), highlight) > before + 10000);
+    geometry->showComponents(geometry->findComponents(QString()), false);
+    QCOMPARE(pixelsNear(picture(), highlight), 0);
+    geometry->showComponents(geometry->findComponents(QString()), true);
+    QVERIFY(pixelsNear(picture(), highlight) > before + 10000);
+    meshes->showGroups(groups, false);
+    QCOMPARE(selection->getDataCount(), 0);
+    selection->addSelectedTargetList(BaseModule::MeshGroup, pairs);
+    QCOMPARE(pixelsNear(picture(), highlight), 0);
+    meshes->showGroups(groups, true);
+    QVERIFY(pixelsNear(picture(), highlight) > before + 10000);
 }
 
 void tst_View3D::keysChangeTheMode()
