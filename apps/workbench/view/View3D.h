@@ -66,8 +66,8 @@ private:
     void enter();
     void giveUpKeys();
     void stopDragging();
-    void click(const QPoint& position);
-    void selectIn(const QRect& rectangle);
+    void click(const QPoint& position, bool isAdding);
+    void selectIn(const QRect& rectangle, bool isAdding);
     void startMeasuring(const QPoint& position);
     void measureTo(const QPoint& position);
     void updateCursor();

@@ -143,13 +143,16 @@ void View3D::release(QMouseEvent* event)
     const bool wasDragging = m_isDragging;
     stopDragging();
     if (isSelecting && wasDragging) {
-        selectIn(QRect(pixel(m_pressed), pixel(event->pos())).normalized());
+        selectIn(QRect(pixel(m_pressed), pixel(event->pos())).normalized(), isAdding);
     } else if (isSelecting) {
-        click(pixel(event->pos()));
+        click(pixel(event->pos()), isAdding);
     }
 }
 
 void View3D::stopDragging()
+    // The press of the key went to another widget when that had the focus.
+    const bool isAdding =
+        InteractionManager::getInstance()->isActiveMultipleSelect() || event->modifiers().testFlag(Qt::ControlModifier);
 {
     m_button = Qt::NoButton;
     m_isDragging = false;
@@ -165,16 +168,15 @@ void View3D::wheel(QWheelEvent* event)
 }
 
 // Without Ctrl a click selects one thing alone; with it, things come and go one by one.
-void View3D::click(const QPoint& position)
+void View3D::click(const QPoint& position, bool isAdding)
 {
     update3D();
     SelectedDataManager* selection = SelectedDataManager::getInstance();
-    const bool isMultiple = InteractionManager::getInstance()->isActiveMultipleSelect();
     const BaseModule::SelectModel model = selection->getSelectModel();
     const Picking picking(m_scene->renderer(), m_scene->skins());
     Picking::Item item;
     if (!picking.itemAt(position.x(), position.y(), model, item)) {
-        if (!isMultiple && selection->getDataCount() > 0) {
+        if (!isAdding && selection->getDataCount() > 0) {
             selection->clearAllSelectedTarget();
         }
         return;
@@ -182,13 +184,13 @@ void View3D::click(const QPoint& position)
     const SelectionUndo::Burst oneStep;
     const bool isOnlyOne =
         selection->getDataCount() == 1 && selection->getSelectedDataBySelectedModel(model).contains(item);
-    if (!isMultiple && selection->getDataCount() > 0 && !isOnlyOne) {
+    if (!isAdding && selection->getDataCount() > 0 && !isOnlyOne) {
         selection->clearAllSelectedTarget();
     }
     selection->clickViewObject(item.first, item.second);
 }
 
-void View3D::selectIn(const QRect& rectangle)
+void View3D::selectIn(const QRect& rectangle, bool isAdding)
 {
     update3D();
     SelectedDataManager* selection = SelectedDataManager::getInstance();
@@ -197,7 +199,7 @@ void View3D::selectIn(const QRect& rectangle)
     const QList<Picking::Item> items =
         picking.itemsIn(rectangle.left(), rectangle.top(), rectangle.right(), rectangle.bottom(), model);
     const SelectionUndo::Burst oneStep;
-    if (!InteractionManager::getInstance()->isActiveMultipleSelect() && selection->getDataCount() > 0) {
+    if (!isAdding && selection->getDataCount() > 0) {
         selection->clearAllSelectedTarget();
     }
     selection->addSelectedTargetList(model, items);

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void clickSelects_data();
     void clickSelects();
     void clickReplacesAndControlAdds();
+    void heldControlAdds();
     void clickBesideDeselects();
     void boxSelectsWhatIsSeen();
     void mouseMakesOneStepOfUndo_data();
@@ -184,6 +185,23 @@ void tst_View3D::clickReplacesAndControlAdds()
     QTest::mouseClick(m_canvas, Qt::LeftButton, Qt::ControlModifier, centre());
     QTest::keyRelease(m_canvas, Qt::Key_Control);
     QCOMPARE(selection->getDataCount(), 2);
+}
+
+// The key was pressed while somebody typed, so the view was not told.
+void tst_View3D::heldControlAdds()
+{
+    SelectedDataManager* selection = SelectedDataManager::getInstance();
+    selection->setSelectModelInMainWindow(BaseModule::MeshElement);
+    QTest::mouseClick(m_canvas, Qt::LeftButton, Qt::NoModifier, centre());
+    QTest::mouseClick(m_canvas, Qt::LeftButton, Qt::ControlModifier, centre() + QPoint(60, 20));
+    QCOMPARE(selection->getDataCount(), 2);
+    QTest::mouseClick(m_canvas, Qt::LeftButton, Qt::ControlModifier, QPoint(4, 4));
+    QCOMPARE(selection->getDataCount(), 2);
+    drag(centre() - QPoint(100, 40), centre() - QPoint(60, 10), Qt::LeftButton, Qt::ControlModifier);
+    QVERIFY(selection->getDataCount() > 2);
+    QVERIFY(!InteractionManager::getInstance()->isActiveMultipleSelect());
+    QTest::mouseClick(m_canvas, Qt::LeftButton, Qt::NoModifier, centre());
+    QCOMPARE(selection->getDataCount(), 1);
 }
 
 void tst_View3D::clickBesideDeselects()
