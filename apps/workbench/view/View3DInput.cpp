@@ -28,6 +28,16 @@ using DataManager::SelectedDataManager;
 
 namespace Workbench {
 
+namespace {
+
+// Goes on to the next widget, where every widget leaves it to.
+bool isTab(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+}
+
+} // namespace
+
 bool View3D::eventFilter(QObject* watched, QEvent* event)
 {
     return watched == m_canvas ? handle(event) : QWidget::eventFilter(watched, event);
@@ -52,7 +62,7 @@ bool View3D::handle(QEvent* event)
         return true;
     case QEvent::KeyPress:
         InteractionManager::getInstance()->onKeyPress(static_cast<QKeyEvent*>(event));
-        return true;
+        return !isTab(*static_cast<QKeyEvent*>(event));
     case QEvent::KeyRelease:
         InteractionManager::getInstance()->onKeyRelease(static_cast<QKeyEvent*>(event));
         return true;
@@ -140,6 +150,9 @@ void View3D::release(QMouseEvent* event)
     }
     const bool isSelecting =
         m_button == Qt::LeftButton && InteractionManager::getInstance()->getInteractionMode() == BaseModule::Select;
+    // The press of the key went to another widget when that had the focus.
+    const bool isAdding =
+        InteractionManager::getInstance()->isActiveMultipleSelect() || event->modifiers().testFlag(Qt::ControlModifier);
     const bool wasDragging = m_isDragging;
     stopDragging();
     if (isSelecting && wasDragging) {
@@ -150,9 +163,6 @@ void View3D::release(QMouseEvent* event)
 }
 
 void View3D::stopDragging()
-    // The press of the key went to another widget when that had the focus.
-    const bool isAdding =
-        InteractionManager::getInstance()->isActiveMultipleSelect() || event->modifiers().testFlag(Qt::ControlModifier);
 {
     m_button = Qt::NoButton;
     m_isDragging = false;

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void hiddenIsNotPicked();
     void hiddenGroupIsNotDrawn();
     void keysChangeTheMode();
+    void tabLeavesTheView();
     void lostFocusReleasesKeys();
     void dragMovesTheCamera_data();
     void dragMovesTheCamera();
@@ -322,6 +323,17 @@ void tst_View3D::hiddenGroupIsNotDrawn()
     QCOMPARE(pixelsNear(picture(), highlight), 0);
     meshes->showGroups(groups, true);
     QVERIFY(pixelsNear(picture(), highlight) > before + 10000);
+}
+
+// Going on with the keyboard, as from any other widget.
+void tst_View3D::tabLeavesTheView()
+{
+    QVERIFY(m_canvas->hasFocus());
+    QTest::keyClick(m_canvas, Qt::Key_Tab);
+    QVERIFY(m_field->hasFocus());
+    m_canvas->setFocus();
+    QTest::keyClick(m_canvas, Qt::Key_Backtab, Qt::ShiftModifier);
+    QVERIFY(m_field->hasFocus());
 }
 
 void tst_View3D::keysChangeTheMode()
