@@ -21,7 +21,7 @@ namespace Workbench {
 
 MesherProcess* MesherProcess::instance()
 {
-    // Owned by the application, so that a run ends with it.
+    // Never destroyed: a run ends with the application because that says when it is about to quit.
     static auto* const mesher = new MesherProcess;
     return mesher;
 }
