@@ -5,6 +5,7 @@
 
 #include <workbench/geometry/GeometryManager.h>
 #include <workbench/mesh/MeshManager.h>
+#include <workbench/project/ReplacementFile.h>
 #include <workbench/project/WorkingDirectory.h>
 
 #include <basemodule/IBaseSignal.h>
@@ -13,28 +14,25 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <filesystem>
-#include <system_error>
-
 using BaseModule::IBaseSignal;
 
 namespace Workbench {
 namespace {
 
-// What was there before stays until all of it is copied.
-bool replaceByCopy(QFile& source, const QString& target)
+// What was there before stays until all of it is copied. Empty, or what went wrong.
+QString replaceByCopy(QFile& source, const QString& target)
 {
-    const QString beside = target + QStringLiteral(".new");
-    QFile::remove(beside);
-    std::error_code error;
-    if (source.copy(beside)) {
-        std::filesystem::rename(QFile::encodeName(beside).constData(), QFile::encodeName(target).constData(), error);
-        if (!error) {
-            return true;
+    constexpr qint64 partSize = 1 << 20;
+    ReplacementFile copy(target);
+    bool isCopied = copy.open();
+    while (isCopied && !source.atEnd()) {
+        const QByteArray part = source.read(partSize);
+        if (part.isEmpty()) {
+            return source.errorString();
         }
+        isCopied = copy.device().write(part) == part.size();
     }
-    QFile::remove(beside);
-    return false;
+    return isCopied && copy.commit() ? QString() : copy.problem();
 }
 
 } // namespace
@@ -119,8 +117,9 @@ bool Project::takeGeometry(const QString& path)
     if (QFileInfo(path) == QFileInfo(copy)) {
         return true;
     }
-    if (!replaceByCopy(source, copy)) {
-        return fail(tr("The geometry %1 cannot be opened: %2"), path, source.errorString());
+    const QString problem = replaceByCopy(source, copy);
+    if (!problem.isEmpty()) {
+        return fail(tr("The geometry %1 cannot be opened: %2"), path, problem);
     }
     if (!geometryName().isEmpty() && geometryPath() != copy) {
         QFile::remove(geometryPath());
