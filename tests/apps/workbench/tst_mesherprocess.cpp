@@ -227,6 +227,17 @@ void tst_MesherProcess::failureKeepsThePredictorsMesh()
     QCOMPARE(QFileInfo(unfinished).exists(), false);
 }
 
+// Opens a mesh at the moment when the mesher has ended and what it made is not in place yet.
+static void openWhenTheMesherHasEnded(const QObject& scope)
+{
+    const MesherProcess* mesher = MesherProcess::instance();
+    QObject::connect(mesher, &MesherProcess::signal_output, &scope, [mesher] {
+        if (!mesher->isRunning()) {
+            MeshManager::instance()->openMesh(samplePath("bearing-housing.msh"));
+        }
+    });
+}
+
 // The other mesh begins to be read when the mesher has ended and its mesh is not in place yet; what of that is under
 // way when it is, ends before it is opened.
 void tst_MesherProcess::takesThePlaceOfAMeshBeingRead()
@@ -235,11 +246,7 @@ void tst_MesherProcess::takesThePlaceOfAMeshBeingRead()
     MeshManager* meshes = MeshManager::instance();
     const MesherProcess* mesher = MesherProcess::instance();
     QObject scope;
-    connect(mesher, &MesherProcess::signal_output, &scope, [mesher, meshes] {
-        if (!mesher->isRunning()) {
-            meshes->openMesh(samplePath("bearing-housing.msh"));
-        }
-    });
+    openWhenTheMesherHasEnded(scope);
     connect(mesher, &MesherProcess::signal_finished, &scope, [meshes] { meshes->waitForLoad(); });
     QSignalSpy started(meshes, &MeshManager::signal_loadStarted);
     QSignalSpy loaded(meshes, &MeshManager::signal_loadFinished);
@@ -264,13 +271,8 @@ void tst_MesherProcess::failureLetsAReadingGoOn()
 {
     script("echo 'Error   : no'; exit 1");
     MeshManager* meshes = MeshManager::instance();
-    const MesherProcess* mesher = MesherProcess::instance();
     QObject scope;
-    connect(mesher, &MesherProcess::signal_output, &scope, [mesher, meshes] {
-        if (!mesher->isRunning()) {
-            meshes->openMesh(samplePath("bearing-housing.msh"));
-        }
-    });
+    openWhenTheMesherHasEnded(scope);
     QCOMPARE(run(samplePath("slivers.geo")), 0);
     QTRY_VERIFY_WITH_TIMEOUT(!meshes->isLoading(), 60000);
     QCOMPARE(meshes->findKernels(QString()).size(), 1);
