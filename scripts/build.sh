@@ -16,10 +16,10 @@ quietly() { "$@" >"$log" 2>&1 || { cat "$log" >&2; exit 1; }; }
 
 if [ ! -f "$directory/build.ninja" ]; then
   echo "configuring $directory" >&2
-  # What makes the build quick: what ccache has kept or, without it, headers that are compiled once.
-  speed=-DDATAMANAGER_PRECOMPILED_HEADERS=ON
-  command -v ccache >/dev/null 2>&1 && speed=-DCMAKE_CXX_COMPILER_LAUNCHER=ccache
-  quietly cmake --preset "$preset" ${root:+"-DONNXRUNTIME_ROOT=$root"} "$speed"
+  # Others' headers are compiled once, unless CMAKE_CXX_COMPILER_LAUNCHER names a cache, which knows every source.
+  headers=ON
+  [ -z "${CMAKE_CXX_COMPILER_LAUNCHER:-}" ] || headers=OFF
+  quietly cmake --preset "$preset" ${root:+"-DONNXRUNTIME_ROOT=$root"} "-DDATAMANAGER_PRECOMPILED_HEADERS=$headers"
 fi
 ninja -C "$directory" -n "$@" | grep -q 'no work to do' || echo "building $directory (the first time takes minutes)" >&2
 quietly cmake --build "$directory" --target "${@:-all}"

@@ -8,8 +8,6 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$(scripts/setup.sh --print-onnxruntime-root)
-launcher=()
-if command -v ccache >/dev/null 2>&1; then launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache); fi
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 quietly() { "$@" >"$log" 2>&1 || { cat "$log" >&2; exit 1; }; }
@@ -23,14 +21,14 @@ one() { # COMPILER TYPE LINK [OPTION...]
   rm -rf "$build"
   quietly cmake -G Ninja -S . -B "$build" "-DCMAKE_C_COMPILER=$cc" "-DCMAKE_CXX_COMPILER=$cxx" "-DCMAKE_BUILD_TYPE=$type" \
     "-DBUILD_SHARED_LIBS=$shared" "-DDATAMANAGER_BUILD_TESTS=$tests" \
-    "-DONNXRUNTIME_ROOT=$root" "${launcher[@]}" "$@"
+    "-DONNXRUNTIME_ROOT=$root" "$@"
   quietly cmake --build "$build" ${JOBS:+-j "$JOBS"}
   if grep -q 'warning:' "$log"; then cat "$log" >&2; exit 1; fi
   quietly cmake --install "$build" --prefix "$build/prefix"
   for consumer in installed pkgconfig; do
     quietly env DATAMANAGER_DEPS_DIR=/nonexistent cmake -G Ninja -S "tests/consumers/$consumer" \
       -B "$build/consumers/$consumer" "-DCMAKE_PREFIX_PATH=$build/prefix" "-DCMAKE_CXX_COMPILER=$cxx" \
-      "-DCMAKE_C_COMPILER=$cc" "-DCMAKE_BUILD_TYPE=$type" "${launcher[@]}"
+      "-DCMAKE_C_COMPILER=$cc" "-DCMAKE_BUILD_TYPE=$type"
     quietly cmake --build "$build/consumers/$consumer"
     (cd "$build" && quietly env QT_QPA_PLATFORM=offscreen "consumers/$consumer/consumer")
     grep -q 'consumer: ok' "$log" || { cat "$log" >&2; exit 1; }

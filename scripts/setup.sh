@@ -11,7 +11,7 @@
 # for example /usr for a system package.
 set -euo pipefail
 
-packages=(build-essential cmake ninja-build ccache git ca-certificates clang-format
+packages=(build-essential cmake ninja-build git ca-certificates clang-format
   doxygen qtbase5-dev qttools5-dev qttools5-dev-tools libvtk9-dev libvtk9-qt-dev libquazip1-qt5-dev
   libssl-dev libfast-float-dev libbenchmark-dev gmsh xvfb
   strace attr e2fsprogs mandoc pkg-config)
