@@ -3,6 +3,8 @@
 
 #include <workbench/quality/HistogramView.h>
 
+#include <workbench/quality/BarChart.h>
+
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -17,6 +19,7 @@ using DataManager::MeshQualityReport;
 namespace Workbench {
 namespace {
 
+constexpr double barWidth = 0.95;
 const QColor barColour(31, 119, 180);
 const QColor chosenColour(255, 140, 0);
 
@@ -27,7 +30,7 @@ QString number(double value)
 
 } // namespace
 
-HistogramView::HistogramView(QWidget* parent) : QWidget(parent)
+HistogramView::HistogramView(QWidget* parent) : QWidget(parent), m_chart(new BarChart(barWidth, this))
 {
     setMinimumHeight(100);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
@@ -48,7 +51,7 @@ void HistogramView::setHistogram(const MeshQualityReport::Histogram& histogram)
     m_mark = std::min(m_mark, binCount() - 1);
     m_markStart = std::min(m_markStart, binCount() - 1);
     describeMark();
-    update();
+    showBars();
 }
 
 QRect HistogramView::plot() const
@@ -79,14 +82,29 @@ bool HistogramView::isChosen(int bin) const
     return m_pressed >= 0 && bin >= std::min(m_pressed, m_last) && bin <= std::max(m_pressed, m_last);
 }
 
-// Few elements among many still show.
-QRect HistogramView::bar(int bin) const
+// Few elements among many still show: two pixels.
+double HistogramView::barHeight(int bin) const
 {
     const int count = m_histogram.counts[static_cast<std::size_t>(bin)];
-    const QRect area = column(bin);
-    const double share = static_cast<double>(count) / std::max(highestCount(), 1);
-    const int height = count == 0 ? 0 : std::max(2, static_cast<int>(share * area.height()));
-    return {area.left(), area.bottom() + 1 - height, std::max(1, area.width() - 1), height};
+    const double least = 2.0 / std::max(plot().height(), 2);
+    return count == 0 ? 0 : std::max(least, static_cast<double>(count) / highestCount());
+}
+
+void HistogramView::showBars()
+{
+    std::vector<BarChart::Bar> bars;
+    for (int bin = 0; bin < binCount(); ++bin) {
+        bars.push_back({barHeight(bin), isChosen(bin) ? chosenColour : barColour});
+    }
+    const auto range = [](bool isAny, int one, int other) {
+        return isAny ? BarChart::Range(std::min(one, other), std::max(one, other)) : BarChart::Range(-1, -1);
+    };
+    m_chart->setGeometry(plot());
+    m_chart->setVisible(!bars.empty());
+    m_chart->setBars(bars);
+    m_chart->setShaded(range(m_pressed >= 0, m_pressed, m_last));
+    m_chart->setFramed(range(isMarked(), m_mark, m_markStart));
+    update();
 }
 
 int HistogramView::highestCount() const
@@ -127,11 +145,17 @@ bool HistogramView::event(QEvent* event)
 
 void HistogramView::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange) {
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::FontChange) {
         describeMark();
-        update();
+        showBars();
     }
     QWidget::changeEvent(event);
+}
+
+void HistogramView::resizeEvent(QResizeEvent* event)
+{
+    showBars();
+    QWidget::resizeEvent(event);
 }
 
 void HistogramView::paintEvent(QPaintEvent*)
@@ -143,28 +167,11 @@ void HistogramView::paintEvent(QPaintEvent*)
         painter.drawText(rect(), Qt::AlignCenter, tr("no finite value"));
         return;
     }
-    paintBars(painter);
     paintTexts(painter);
-}
-
-void HistogramView::paintBars(QPainter& painter) const
-{
-    for (int bin = 0; bin < binCount(); ++bin) {
-        painter.fillRect(isChosen(bin) ? column(bin) : QRect(), QColor(255, 240, 220));
-        painter.fillRect(bar(bin), isChosen(bin) ? chosenColour : barColour);
-    }
-    const QRect area = plot();
-    painter.drawLine(area.bottomLeft() + QPoint(0, 1), area.bottomRight() + QPoint(0, 1));
-    if (isMarked()) {
-        const QRect marked = column(m_mark).united(column(m_markStart));
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.drawRect(marked.adjusted(0, 0, 0, 1));
-    }
 }
 
 void HistogramView::paintTexts(QPainter& painter) const
 {
-    painter.setPen(palette().color(QPalette::Text));
     const QString above = isMarked() ? markText() : tr("up to %1 elements").arg(highestCount());
     painter.drawText(rect().adjusted(6, 2, -6, 0), Qt::AlignTop | Qt::AlignLeft, above);
     const QRect below = rect().adjusted(6, 0, -6, -2);
@@ -202,7 +209,7 @@ void HistogramView::moveMark(int bin, bool isRange)
     m_mark = std::clamp(bin, 0, binCount() - 1);
     m_markStart = isRange && m_markStart >= 0 ? m_markStart : m_mark;
     describeMark();
-    update();
+    showBars();
 }
 
 // Keys work from the first bar on as soon as the histogram has the focus.
@@ -212,13 +219,13 @@ void HistogramView::focusInEvent(QFocusEvent* event)
     m_markStart = std::max(m_markStart, 0);
     describeMark();
     QWidget::focusInEvent(event);
-    update();
+    showBars();
 }
 
 void HistogramView::focusOutEvent(QFocusEvent* event)
 {
     QWidget::focusOutEvent(event);
-    update();
+    showBars();
 }
 
 void HistogramView::describeMark()
@@ -233,7 +240,6 @@ void HistogramView::mousePressEvent(QMouseEvent* event)
         m_pressed = binAt(event->x());
         m_last = m_pressed;
         moveMark(m_pressed, false);
-        update();
     }
 }
 

@@ -9,6 +9,8 @@
 
 namespace Workbench {
 
+class BarChart;
+
 /// Bars for the numbers of elements by value. A click chooses a bar, dragging several; holding Ctrl adds to what is
 /// chosen already. By keys: arrows, Home and End move a mark, with Shift over several bars; Space or Enter chooses the
 /// marked ones. What is said of the marked bars is the accessible description.
@@ -37,6 +39,7 @@ protected:
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -50,17 +53,19 @@ private:
     /// The nearest one.
     int binAt(int x) const;
     bool isChosen(int bin) const;
-    QRect bar(int bin) const;
+    double barHeight(int bin) const;
+    /// Bars, what is chosen and what is marked, as they are now.
+    void showBars();
     QString tip(int bin) const;
     QString countText(int first, int last) const;
     int highestCount() const;
-    void paintBars(QPainter& painter) const;
     void paintTexts(QPainter& painter) const;
 
     bool isMarked() const { return m_mark >= 0 && hasFocus() && m_mark < binCount(); }
     void moveMark(int bin, bool isRange);
     void describeMark();
 
+    BarChart* m_chart;
     DataManager::MeshQualityReport::Histogram m_histogram{};
     int m_pressed = -1;
     int m_last = -1;

@@ -3,6 +3,7 @@
 
 #include <workbench/quality/ScoreChart.h>
 
+#include <workbench/quality/BarChart.h>
 #include <workbench/quality/ScoreText.h>
 
 #include <QHelpEvent>
@@ -15,19 +16,19 @@
 namespace Workbench {
 namespace {
 
+constexpr double barWidth = 0.8;
 const QColor latestColour(31, 119, 180);
 const QColor earlierColour(158, 190, 214);
 
-// A model may give more than 1.
-int barHeight(float score, int whole)
+// A model may give more than 1; a score of 0 still shows.
+double barHeight(float score, int pixels)
 {
-    return std::isnan(score) ? 0
-                             : std::max(1, static_cast<int>(std::clamp(score, 0.0F, 1.0F) * static_cast<float>(whole)));
+    return std::isnan(score) ? 0 : std::clamp(static_cast<double>(score), 1.0 / std::max(pixels, 1), 1.0);
 }
 
 } // namespace
 
-ScoreChart::ScoreChart(QWidget* parent) : QWidget(parent)
+ScoreChart::ScoreChart(QWidget* parent) : QWidget(parent), m_chart(new BarChart(barWidth, this))
 {
     setMinimumHeight(70);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -49,7 +50,7 @@ void ScoreChart::setScores(const std::vector<float>& scores, const QStringList& 
     tips.removeAll(QString());
     setAccessibleName(tr("Last scores"));
     setAccessibleDescription(tips.join(QStringLiteral("; ")));
-    update();
+    fill();
 }
 
 QString ScoreChart::tip(int place) const
@@ -61,11 +62,36 @@ QString ScoreChart::tip(int place) const
     return QStringLiteral("%1: %2").arg(m_names.at(nameOf(place)), score);
 }
 
-QRect ScoreChart::column(int place) const
+QRect ScoreChart::plot() const
 {
-    const int line = fontMetrics().height();
-    const int left = width() * place / count();
-    return {left, line + 2, width() * (place + 1) / count() - left, height() - line - 4};
+    return rect().adjusted(0, fontMetrics().height() + 2, 0, -2);
+}
+
+void ScoreChart::fill()
+{
+    std::vector<BarChart::Bar> bars;
+    for (int place = 0; place < count(); ++place) {
+        const float score = m_scores[static_cast<std::size_t>(place)];
+        bars.push_back({nameOf(place) < 0 ? 0 : barHeight(score, plot().height()),
+                        place == count() - 1 ? latestColour : earlierColour});
+    }
+    m_chart->setGeometry(plot());
+    m_chart->setBars(bars);
+    update();
+}
+
+void ScoreChart::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange) {
+        fill();
+    }
+    QWidget::changeEvent(event);
+}
+
+void ScoreChart::resizeEvent(QResizeEvent* event)
+{
+    fill();
+    QWidget::resizeEvent(event);
 }
 
 bool ScoreChart::event(QEvent* event)
@@ -82,28 +108,15 @@ void ScoreChart::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.fillRect(rect(), palette().base());
-    for (int place = 0; place < count(); ++place) {
-        if (nameOf(place) >= 0) {
-            paintBar(painter, place);
-        }
-    }
-    painter.setPen(palette().color(QPalette::Mid));
-    for (int i = 0; count() > 0 && i <= 2; ++i) { // at 1, a half and 0
-        const int y = column(0).top() + column(0).height() * i / 2;
-        painter.drawLine(0, y, width(), y);
-    }
-}
-
-void ScoreChart::paintBar(QPainter& painter, int place)
-{
-    const float score = m_scores[static_cast<std::size_t>(place)];
-    const QRect area = column(place);
-    const int height = barHeight(score, area.height());
-    painter.fillRect(area.left() + 3, area.bottom() + 1 - height, area.width() - 6, height,
-                     place == count() - 1 ? latestColour : earlierColour);
     painter.setPen(palette().color(QPalette::Text));
-    const QString text = std::isnan(score) ? scoreNumber(score) : QString::number(static_cast<double>(score), 'f', 2);
-    painter.drawText(QRect(area.left(), 0, area.width(), area.top()), Qt::AlignCenter, text);
+    for (int place = 0; place < count(); ++place) {
+        const float score = m_scores[static_cast<std::size_t>(place)];
+        const QString text =
+            std::isnan(score) ? scoreNumber(score) : QString::number(static_cast<double>(score), 'f', 2);
+        const int left = width() * place / count();
+        painter.drawText(QRect(left, 0, width() * (place + 1) / count() - left, plot().top()), Qt::AlignCenter,
+                         nameOf(place) < 0 ? QString() : text);
+    }
 }
 
 } // namespace Workbench

@@ -10,6 +10,8 @@
 
 namespace Workbench {
 
+class BarChart;
+
 /// Bars from 0 to 1 for the last scores, the latest on the right.
 class ScoreChart : public QWidget
 {
@@ -27,15 +29,19 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     int count() const { return static_cast<int>(m_scores.size()); }
     /// Of the bar's mesh among the names; negative without a score.
     int nameOf(int place) const { return place - (count() - m_names.size()); }
-    QRect column(int place) const;
-    void paintBar(QPainter& painter, int place);
+    /// Where the bars are; a line above has their numbers.
+    QRect plot() const;
+    void fill();
 
+    BarChart* m_chart;
     std::vector<float> m_scores;
     QStringList m_names;
 };

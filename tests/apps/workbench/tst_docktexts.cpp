@@ -72,13 +72,14 @@ QWidget* removalQuestion(QWidget& parent)
     return windowNamed("removalQuestion");
 }
 
+// A window of its own, which ends with the function that asked for it.
 template <class Dock>
-QWidget* dock(QWidget&)
+QWidget* dock(QWidget& parent)
 {
-    static std::unique_ptr<Dock> shown;
-    shown = std::make_unique<Dock>();
+    auto* const shown = new Dock(&parent);
+    shown->setWindowFlag(Qt::Window);
     shown->show();
-    return shown.get();
+    return shown;
 }
 
 int countOf(const QStringList& texts, const QString& mark)
