@@ -8,7 +8,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 target=${1:-docs/images}
-scripts/build.sh release build workbench_pictures datamanager_translations
+scripts/build.sh release build workbench_pictures datamanager_translations DefaultLibraries
 mkdir -p "$target"
 scripts/with-display.sh build/bin/workbench_pictures samples "$target"
 # Fewer colours where the program for it is there: a quarter of the size.
