@@ -4,12 +4,12 @@
 #pragma once
 
 #include <QStringList>
-#include <QtGlobal>
 
 namespace Workbench {
 
-/// Notes what is logged while it lives, and passes it on. The material libraries tell of a failed save only in the log,
-/// and log nothing else while they save.
+/// Notes what its thread logs while it lives, and passes it on. The material libraries tell of a failed save only in
+/// the log, and log nothing else while they save; other threads may log meanwhile. Watches end in the thread that made
+/// them, the last one first.
 class SaveWatch
 {
 public:
@@ -18,11 +18,10 @@ public:
     SaveWatch(const SaveWatch&) = delete;
     SaveWatch& operator=(const SaveWatch&) = delete;
 
-    /// What was logged since the construction.
+    /// What the thread logged since the construction.
     QStringList lines() const;
 
 private:
-    QtMessageHandler m_previous;
     int m_start;
 };
 
