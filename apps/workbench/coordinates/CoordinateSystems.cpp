@@ -19,6 +19,7 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <limits>
 
 namespace Workbench {
 
@@ -76,16 +77,25 @@ QByteArray registryContent()
     return content;
 }
 
-int nextID()
+int highestID()
 {
     int highest = 0;
     for (int i = 0; i < coordinateRegistry().getRelativeCoordinateSystemDateCount(); ++i) {
         highest = std::max(highest, coordinateRegistry().getCoordinateSystemByIndex(i)->getID());
     }
-    return highest + 1;
+    return highest;
 }
 
-// Another system may get the identifier later.
+int lowestUnusedID()
+{
+    int id = 1;
+    while (coordinateRegistry().getCoordinateSystemByID(id) != nullptr) {
+        ++id;
+    }
+    return id;
+}
+
+// Others may give the identifier to another system later.
 void deselect(const QList<int>& ids)
 {
     SelectedDataManager* const selection = SelectedDataManager::getInstance();
@@ -122,6 +132,8 @@ CoordinateSystems::CoordinateSystems() : m_axes(new CoordinateAxes(this))
         appendGlobalSystem();
     }
     connect(&coordinateRegistry(), &RelativeCoordinateSystemDate::signal_dataDeleted, this, &deselect);
+    connect(&coordinateRegistry(), &RelativeCoordinateSystemDate::signal_dataDeleted, this,
+            [this] { m_highestID = std::max(m_highestID, highestID()); });
     connect(BaseModule::IBaseSignal::getInstance(), &BaseModule::IBaseSignal::signal_checkHighLight, this,
             &checkHighLight);
     tellChange();
@@ -165,12 +177,20 @@ Placement CoordinateSystems::placement(int id)
                                        : placements(systems).at(static_cast<int>(node - systems.nodes.begin()));
 }
 
+// A file may hold the largest number that there is.
+int CoordinateSystems::nextID() const
+{
+    const int highest = std::max(m_highestID, highestID());
+    return highest < std::numeric_limits<int>::max() ? highest + 1 : lowestUnusedID();
+}
+
 int CoordinateSystems::create(int basicID, const CoordinateDefinition& definition)
 {
     if (coordinateRegistry().getCoordinateSystemByID(basicID) == nullptr) {
         return 0;
     }
     const int id = nextID();
+    m_highestID = std::max(m_highestID, id);
     coordinateRegistry().appendCoordinateSystem(newCoordinateRecord(id, basicID, definition));
     tellChange();
     return id;
@@ -279,6 +299,7 @@ void CoordinateSystems::showAxes(int id, bool isShown)
 void CoordinateSystems::loadProject()
 {
     coordinateRegistry().resetData();
+    m_highestID = 0;
     coordinateRegistry().readConfig();
     m_unread = hasOnlyGlobalSystem() ? contentOf(projectFile()) : QByteArray();
     tellChange();
@@ -300,6 +321,7 @@ bool CoordinateSystems::saveProject()
 void CoordinateSystems::clearProject()
 {
     coordinateRegistry().resetData();
+    m_highestID = 0;
     m_unread.clear();
 }
 

@@ -35,8 +35,8 @@ public:
     /// The system's own level; defaults when there is no such system.
     static CoordinateDefinition definition(int id);
 
-    /// Adds a system relative to `basicID` and returns its identifier, one above the highest; 0 when there is no such
-    /// basic system.
+    /// Adds a system relative to `basicID` and returns its identifier, one above the highest that the open project had,
+    /// so that nothing which remembers a deleted system takes the new one for it. 0 when there is no such basic system.
     int create(int basicID, const CoordinateDefinition& definition);
     /// Changes a system and with it all systems below. Nothing happens for the global system and unknown ones.
     void change(int id, const CoordinateDefinition& definition);
@@ -67,7 +67,11 @@ public:
 private:
     CoordinateSystems();
 
+    int nextID() const;
+
     CoordinateAxes* m_axes;
+    /// Of those that were deleted since the project was opened, too.
+    int m_highestID = 0;
     /// The content of a file that gave no system.
     QByteArray m_unread;
 };

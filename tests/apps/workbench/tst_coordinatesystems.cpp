@@ -16,6 +16,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <limits>
 #include <memory>
 
 using BaseModule::GlobalHelper;
@@ -65,6 +66,9 @@ private Q_SLOTS:
     void createsRelativeToAnyOther();
     void refusesAMissingBasicSystem();
     void takesTheNextIdentifier();
+    void givesNoIdentifierTwice();
+    void countsAnewInAnotherProject();
+    void passesTheLargestIdentifier();
     void placesAxes();
     void agreesWithTheLibrarysComposition();
     void keepsEveryBit();
@@ -138,6 +142,44 @@ void tst_CoordinateSystems::takesTheNextIdentifier()
     Fixture::systems().remove({1});
     QCOMPARE(Fixture::create(0, text("c")), 3);
     QCOMPARE(Fixture::ids(), text("[0,2,3]"));
+}
+
+void tst_CoordinateSystems::givesNoIdentifierTwice()
+{
+    Fixture::create(0, text("a"));
+    Fixture::create(0, text("b"));
+    Fixture::systems().remove({2});
+    QCOMPARE(Fixture::create(0, text("c")), 3);
+    // One that came from the file is gone as well, and so are those that others remove.
+    Fixture::systems().loadProject();
+    Fixture::systems().remove({3});
+    QCOMPARE(Fixture::create(0, text("d")), 4);
+    Fixture::Registry::getInstance()->removeCoordinateSystemByID({4, 77});
+    QCOMPARE(Fixture::create(0, text("e")), 5);
+    Fixture::Registry::getInstance()->removeCoordinateSystemByIndex(2);
+    QCOMPARE(Fixture::create(0, text("f")), 6);
+    QCOMPARE(Fixture::ids(), text("[0,1,6]"));
+}
+
+void tst_CoordinateSystems::countsAnewInAnotherProject()
+{
+    Fixture::create(0, text("a"));
+    Fixture::create(0, text("b"));
+    Fixture::systems().remove({2});
+    Fixture::systems().loadProject();
+    QCOMPARE(Fixture::create(0, text("c")), 2);
+    Fixture::systems().clearProject();
+    QCOMPARE(Fixture::create(0, text("d")), 1);
+}
+
+void tst_CoordinateSystems::passesTheLargestIdentifier()
+{
+    auto* const foreign = new Fixture::System;
+    foreign->setID(std::numeric_limits<int>::max());
+    Fixture::Registry::getInstance()->appendCoordinateSystem(foreign);
+    QCOMPARE(Fixture::create(0, text("a")), 1);
+    Fixture::systems().remove({std::numeric_limits<int>::max()});
+    QCOMPARE(Fixture::create(0, text("b")), 2);
 }
 
 void tst_CoordinateSystems::placesAxes()
@@ -232,7 +274,7 @@ void tst_CoordinateSystems::removesSharedDependentsOnce()
     QCOMPARE(log.take().first(), text("deleted [1,2] | [0,1,2] at 0"));
 }
 
-// A later system may get its identifier, and must not be selected from the start.
+// Another system may get its identifier, and must not be selected from the start.
 void tst_CoordinateSystems::deselectsWhatGoes()
 {
     Fixture::create(0, text("Table"));
@@ -361,7 +403,10 @@ void tst_CoordinateSystems::showsAndHidesAxes()
     Fixture::systems().change(1, {text("Desk"), BaseModule::Cartesian, {1, 0, 0}, {0, 0, 0}});
     QVERIFY(!isSeen(1));
     Fixture::systems().remove({1});
-    Fixture::create(0, text("New"));
+    auto* const later = new Fixture::System;
+    later->setID(1);
+    Fixture::Registry::getInstance()->appendCoordinateSystem(later);
+    QTRY_VERIFY(later->getActor() != nullptr);
     QVERIFY(isSeen(1));
 }
 

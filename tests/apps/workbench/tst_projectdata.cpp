@@ -11,18 +11,22 @@
 #include <workbench/material/MaterialDock.h>
 #include <workbench/material/MaterialLibraries.h>
 #include <workbench/project/Project.h>
+#include <workbench/selection/SelectionUndo.h>
 
 #include <basemodule/GlobalHelper.h>
 #include <configoption/TextCipher.h>
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
 #include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
+#include <datamanager/selection/SelectedDataManager.h>
 #include <datamodel/MaterialData.h>
 
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTreeView>
 #include <QTreeWidget>
+#include <QUndoStack>
 
+using Workbench::CoordinateDefinition;
 using Workbench::CoordinateSystems;
 using Workbench::MaterialLibraries;
 using Workbench::Project;
@@ -72,6 +76,7 @@ private Q_SLOTS:
     void failsWithoutWorkingFiles_data();
     void failsWithoutWorkingFiles();
     void keepsUnreadableFiles();
+    void undoSelectsNoLaterSystem();
     void cleanupTestCase() { Project::instance()->close(); }
 };
 
@@ -200,6 +205,22 @@ void tst_ProjectData::keepsUnreadableFiles()
     QVERIFY(Project::instance()->save());
     QCOMPARE(workingFile("MaterialLibrary.json"), QByteArray("damaged"));
     QCOMPARE(workingFile("RelativeCoordinateSystemDate.json"), QByteArray("damaged"));
+}
+
+void tst_ProjectData::undoSelectsNoLaterSystem()
+{
+    QVERIFY(Project::instance()->create());
+    auto* const selection = DataManager::SelectedDataManager::getInstance();
+    QUndoStack& steps = *Workbench::SelectionUndo::instance()->stack();
+    Workbench::SelectionUndo::instance()->forget();
+    const CoordinateDefinition definition = {text("Table"), BaseModule::Cartesian, {}, {}};
+    const int deleted = CoordinateSystems::instance()->create(0, definition);
+    selection->addSelectedTargetList(BaseModule::CoordinateAxes, {{deleted, -1}});
+    CoordinateSystems::instance()->remove({deleted});
+    CoordinateSystems::instance()->create(0, definition);
+    QCOMPARE(steps.count(), 2);
+    steps.undo();
+    QVERIFY(selection->getSelectedDataList().isEmpty());
 }
 
 WORKBENCH_TEST_MAIN(tst_ProjectData)
