@@ -209,14 +209,25 @@ bool FileReplacement::write(const char* data, qint64 size)
 
 bool FileReplacement::commit()
 {
+    if (m_error == 0 && ::fsync(m_descriptor) != 0) {
+        return fail(errno);
+    }
+    if (!commitUnsynced()) {
+        return false;
+    }
+    syncDirectory(directoryOf(m_target));
+    return true;
+}
+
+bool FileReplacement::commitUnsynced()
+{
     if (m_error != 0) {
         return false;
     }
-    if (::fsync(m_descriptor) != 0 || ::rename(m_temporary.constData(), m_target.constData()) != 0) {
+    if (::rename(m_temporary.constData(), m_target.constData()) != 0) {
         return fail(errno);
     }
     m_temporary.clear();
-    syncDirectory(directoryOf(m_target));
     return true;
 }
 

@@ -3,6 +3,8 @@
 
 #include <workbench/mesh/MeshLoader.h>
 
+#include <workbench/file/FileCopy.h>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -12,15 +14,35 @@
 namespace Workbench {
 namespace {
 
-bool copyFile(const QString& source, const QString& target)
+// How much is done when the file is copied, and when it is read.
+constexpr double doneCopying = 0.1;
+constexpr double doneReading = 0.95;
+
+KernelProgress part(const KernelProgress& progress, double from, double to)
+{
+    return [&progress, from, to](double done) { return progress(from + (to - from) * done); };
+}
+
+FileCopy copyFile(const QString& source, const QString& target, const KernelProgress& progress)
 {
     if (QFileInfo(source) == QFileInfo(target)) {
-        return true;
+        return {true, false, {}};
     }
     QDir().mkpath(QFileInfo(target).path());
-    QFile::remove(target);
-    return QFile::copy(source, target) &&
-           QFile::setPermissions(target, QFile::permissions(target) | QFileDevice::WriteOwner);
+    QFile file(source);
+    return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ? replaceByCopy(file, target, progress)
+                                                                  : FileCopy{false, false, file.errorString()};
+}
+
+/// The other copy may fail, but not be given up alone.
+KernelReading readCopy(const MeshLoader::Job& job, const KernelProgress& progress)
+{
+    KernelReading reading = readKernelMesh(job.copy, part(progress, doneCopying, doneReading));
+    if (!reading.mesh || job.otherCopy.isEmpty()) {
+        return reading;
+    }
+    const FileCopy other = copyFile(job.copy, job.otherCopy, part(progress, doneReading, 1));
+    return other.isGivenUp ? KernelReading{{}, true, {}} : reading;
 }
 
 KernelReading readOne(const MeshLoader::Job& job, const KernelProgress& progress)
@@ -29,14 +51,16 @@ KernelReading readOne(const MeshLoader::Job& job, const KernelProgress& progress
     if (job.copy.isEmpty() || !QFileInfo(job.source).isFile()) {
         return readKernelMesh(job.source, progress);
     }
-    if (!copyFile(job.source, job.copy)) {
+    const FileCopy copy = copyFile(job.source, job.copy, part(progress, 0, doneCopying));
+    if (copy.isGivenUp) {
+        return {{}, true, {}};
+    }
+    if (!copy.isDone) {
         return {{}, false, MeshLoader::tr("it cannot be copied to %1").arg(QDir::toNativeSeparators(job.copy))};
     }
-    KernelReading reading = readKernelMesh(job.copy, progress);
+    const KernelReading reading = readCopy(job, progress);
     if (!reading.mesh && QFileInfo(job.source) != QFileInfo(job.copy)) {
         QFile::remove(job.copy);
-    } else if (reading.mesh && !job.otherCopy.isEmpty()) {
-        copyFile(job.copy, job.otherCopy);
     }
     return reading;
 }

@@ -26,7 +26,8 @@ public:
         QString source;
         /// Where to copy the file before it is read from there; empty to read it where it is.
         QString copy;
-        /// Where to put another copy, if possible, once it is read; empty for nowhere.
+        /// Where to put another copy, if possible, once it is read; empty for nowhere. A copy takes the place of what
+        /// is there when it is whole; reading that is given up before that leaves it as it is.
         QString otherCopy;
     };
 

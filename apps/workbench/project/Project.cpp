@@ -3,9 +3,9 @@
 
 #include <workbench/project/Project.h>
 
+#include <workbench/file/FileCopy.h>
 #include <workbench/geometry/GeometryManager.h>
 #include <workbench/mesh/MeshManager.h>
-#include <workbench/project/ReplacementFile.h>
 #include <workbench/project/WorkingDirectory.h>
 
 #include <basemodule/IBaseSignal.h>
@@ -17,26 +17,6 @@
 using BaseModule::IBaseSignal;
 
 namespace Workbench {
-namespace {
-
-// What was there before stays until all of it is copied. Empty, or what went wrong.
-QString replaceByCopy(QFile& source, const QString& target)
-{
-    constexpr qint64 partSize = 1 << 20;
-    ReplacementFile copy(target);
-    bool isCopied = copy.open();
-    while (isCopied && !source.atEnd()) {
-        const QByteArray part = source.read(partSize);
-        if (part.isEmpty()) {
-            return source.errorString();
-        }
-        isCopied = copy.device().write(part) == part.size();
-    }
-    return isCopied && copy.commit() ? QString() : copy.problem();
-}
-
-} // namespace
-
 QString Project::name() const
 {
     return m_path.isEmpty() ? tr("Untitled") : QFileInfo(m_path).completeBaseName();
@@ -117,9 +97,9 @@ bool Project::takeGeometry(const QString& path)
     if (QFileInfo(path) == QFileInfo(copy)) {
         return true;
     }
-    const QString problem = replaceByCopy(source, copy);
-    if (!problem.isEmpty()) {
-        return fail(tr("The geometry %1 cannot be opened: %2"), path, problem);
+    const FileCopy outcome = replaceByCopy(source, copy, [](double) { return true; });
+    if (!outcome.isDone) {
+        return fail(tr("The geometry %1 cannot be opened: %2"), path, outcome.problem);
     }
     if (!geometryName().isEmpty() && geometryPath() != copy) {
         QFile::remove(geometryPath());

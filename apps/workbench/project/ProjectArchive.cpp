@@ -3,7 +3,7 @@
 
 #include <workbench/project/ProjectArchive.h>
 
-#include <workbench/project/ReplacementFile.h>
+#include <workbench/file/ReplacementFile.h>
 
 #include <QCoreApplication>
 #include <QFile>

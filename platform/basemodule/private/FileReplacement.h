@@ -35,6 +35,8 @@ public:
     bool write(const char* data, qint64 size);
     /// Puts the content in place of the target. False, with the target as it was, also when an earlier call failed.
     bool commit();
+    /// The same without waiting for the disk: a loss of power may leave a part of the content in the target's place.
+    bool commitUnsynced();
     /// The system's number of what went wrong first since the last open(), or 0. EBUSY: another process has the
     /// temporary.
     int error() const { return m_error; }

@@ -6,8 +6,8 @@
 
 #include <support/FilesAndLog.h>
 #include <support/Nobody.h>
+#include <workbench/file/ReplacementFile.h>
 #include <workbench/project/ProjectArchive.h>
-#include <workbench/project/ReplacementFile.h>
 #include <workbench/project/Snapshot.h>
 
 #include <QProcess>

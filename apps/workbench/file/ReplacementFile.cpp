@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 DataManager contributors
 // SPDX-License-Identifier: BSD-3-Clause
 
-#include <workbench/project/ReplacementFile.h>
+#include <workbench/file/ReplacementFile.h>
 
 #include <basemodule/private/FileReplacement.h>
 
@@ -43,6 +43,12 @@ bool ReplacementFile::commit()
 {
     m_content->close();
     return m_content->replacement().commit();
+}
+
+bool ReplacementFile::commitUnsynced()
+{
+    m_content->close();
+    return m_content->replacement().commitUnsynced();
 }
 
 QString ReplacementFile::problem() const

@@ -29,6 +29,8 @@ public:
     QIODevice& device();
     /// Puts the content in place of the target. False, with a problem() and the target as it was, when that fails.
     bool commit();
+    /// The same without waiting for the disk: a power cut may leave a part of the content in the target's place.
+    bool commitUnsynced();
     /// What went wrong first, as the system says it; also of what was written to the device. Empty when nothing did.
     QString problem() const;
 
