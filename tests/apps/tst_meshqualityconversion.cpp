@@ -60,6 +60,7 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_directory;
     QByteArray m_searchPath;
+    QByteArray m_temporary;
 };
 
 namespace {
@@ -92,7 +93,9 @@ QVariantList worst(const QJsonObject& mesh)
 void MeshQualityConversionTest::init()
 {
     m_directory = std::make_unique<QTemporaryDir>();
+    QVERIFY2(m_directory->isValid(), qPrintable(m_directory->errorString()));
     m_searchPath = qgetenv("PATH");
+    m_temporary = qgetenv("TMPDIR");
     for (const char* name : {"programs", "temporary"}) {
         QVERIFY(QDir(m_directory->path()).mkpath(QString::fromLatin1(name)));
     }
@@ -102,6 +105,7 @@ void MeshQualityConversionTest::init()
 void MeshQualityConversionTest::cleanup()
 {
     qputenv("PATH", m_searchPath);
+    qputenv("TMPDIR", m_temporary);
     // Whatever happened, no conversion stays. (The model's runtime leaves files of its own there.)
     const QDir::Filters directories = QDir::AllDirs | QDir::Hidden | QDir::NoDotAndDotDot;
     QCOMPARE(QDir(path(QStringLiteral("temporary"))).entryList(directories), QStringList());
