@@ -24,6 +24,7 @@ class ReportAnswersTest : public QObject
 
 private Q_SLOTS:
     void summarizes();
+    void summarizesEqualValues();
     void summarizesNothing();
     void summarizesAroundNonFiniteValues();
     void findsPercentilesOfManyValues();
@@ -78,6 +79,18 @@ void ReportAnswersTest::summarizes()
     QCOMPARE(s.nonFinite, 0);
     QCOMPARE(Distribution::summary({7}).percentile99, 7.0);
     QCOMPARE(Distribution::summary({7}).standardDeviation, 0.0);
+}
+
+// The sum of squared differences is not that of differences of squares, which may come out negative.
+void ReportAnswersTest::summarizesEqualValues()
+{
+    for (const double value : {0.1, 0.7, 1e-3, 123.456}) {
+        for (const std::size_t count : {std::size_t(3), std::size_t(7), std::size_t(10), std::size_t(1000)}) {
+            const MeshQualityReport::Summary summary = Distribution::summary(std::vector<double>(count, value));
+            QVERIFY2(summary.standardDeviation <= 1e-12 * value,
+                     qPrintable(QString::number(summary.standardDeviation)));
+        }
+    }
 }
 
 void ReportAnswersTest::summarizesNothing()
@@ -250,6 +263,7 @@ void ReportAnswersTest::knowsMetricNames()
     }
     Metric metric = Metric::Shape;
     QVERIFY(!MeshQualityReport::metricOfName(QStringLiteral("Beauty"), metric));
+    QVERIFY(!MeshQualityReport::metricOfName(QString(), metric));
     QVERIFY(metric == Metric::Shape);
 }
 

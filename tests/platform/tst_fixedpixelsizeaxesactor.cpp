@@ -313,6 +313,28 @@ private Q_SLOTS:
         }
     }
 
+    /// Along x, one axis after the other counts against the other two.
+    void tellsTheBoxAroundAxesThatSlantApart()
+    {
+        const double low[3] = {-0.08, -0.16, -0.32};
+        const double high[3] = {1, 2, 4};
+        for (int against = 0; against < 3; ++against) {
+            vtkNew<FixedPixelSizeAxesActor> actor;
+            actor->SetTotalLength(1, 2, 4);
+            vtkNew<vtkMatrix4x4> placement;
+            double expected[2] = {0, 0};
+            for (int axis = 0; axis < 3; ++axis) {
+                placement->SetElement(0, axis, axis == against ? -1 : 1);
+                expected[0] += axis == against ? -high[axis] : low[axis];
+                expected[1] += axis == against ? -low[axis] : high[axis];
+            }
+            actor->SetUserMatrix(placement);
+            const double* const bounds = actor->GetBounds();
+            QVERIFY2(std::abs(bounds[0] - expected[0]) < 1e-12, qPrintable(QString::number(bounds[0])));
+            QVERIFY2(std::abs(bounds[1] - expected[1]) < 1e-12, qPrintable(QString::number(bounds[1])));
+        }
+    }
+
     void keepsItsSizePositive()
     {
         vtkNew<FixedPixelSizeAxesActor> actor;

@@ -58,6 +58,7 @@ private Q_SLOTS:
     void refusesEveryTruncation();
     void refusesExchangedBlocks();
     void refusesAnotherKey();
+    void takesTheKeyFromAFile_data();
     void takesTheKeyFromAFile();
     void failsWithoutTheConfiguredKeyFile_data();
     void failsWithoutTheConfiguredKeyFile();
@@ -129,6 +130,7 @@ void TestTextCipher::hasTheDocumentedForm_data()
     QTest::newRow("a pair at the end") << letters + pair << "8" + letters.toLatin1() + "\xf0\x9f\x94\xa9";
     QTest::newRow("two pairs") << pair + pair << QByteArray("8\xf0\x9f\x94\xa9\xf0\x9f\x94\xa9");
     QTest::newRow("a half") << QString(QChar(0xd801)) + QLatin1Char('z') << QByteArray("W\x01\xd8z\0", 5);
+    QTest::newRow("two low halves") << QString(QChar(0xdc01)) + QChar(0xdc02) << QByteArray("W\x01\xdc\x02\xdc");
     QTest::newRow("a half at the end") << QString(QChar(0x4e2d)) + QChar(0xdbff) << QByteArray("W\x2d\x4e\xff\xdb");
     QTest::newRow("byte-order mark") << QString(QChar(0xfeff)) << QByteArray("W\xff\xfe");
 }
@@ -278,13 +280,23 @@ void TestTextCipher::refusesAnotherKey()
     QVERIFY(decrypt(withFirst).isEmpty());
 }
 
+void TestTextCipher::takesTheKeyFromAFile_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("without a line end") << QByteArray("from a file");
+    QTest::newRow("line end") << QByteArray("from a file\n");
+    QTest::newRow("line end of Windows") << QByteArray("from a file\r\n");
+    QTest::newRow("several") << QByteArray("from a file\n\r\n");
+}
+
 void TestTextCipher::takesTheKeyFromAFile()
 {
+    QFETCH(QByteArray, content);
     QTemporaryDir directory;
     const QString path = directory.filePath(QStringLiteral("key"));
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("from a file\r\n");
+    file.write(content);
     file.close();
     qputenv(keyFileVariable, QFile::encodeName(path));
     const QString withFile = encrypt(sample);

@@ -234,8 +234,8 @@ private Q_SLOTS:
 
     void readsDigitsOfBothCases()
     {
-        const TextPairs read = GlobalHelper::convertStringToIntQStringQList(QStringLiteral("1:%00aF%00Fa%0909"));
-        QCOMPARE(read, (TextPairs{{1, QString(QChar(0xaf)) + QChar(0xfa) + QChar(0x909)}}));
+        const TextPairs read = GlobalHelper::convertStringToIntQStringQList(QStringLiteral("1:%00aF%00Fa%0909%00fF"));
+        QCOMPARE(read, (TextPairs{{1, QString(QChar(0xaf)) + QChar(0xfa) + QChar(0x909) + QChar(0xff)}}));
     }
 
     void keepsStepsInsideTextPairs()
@@ -274,8 +274,9 @@ private Q_SLOTS:
 
     void refusesMalformedTextPairs_data()
     {
-        addTexts({"text", ":text", "a:text", "1:%", "1:%12", "1:%00G0", "1:a;b", "1:a;", "1:a;2:%-001", "1:%003",
-                  "1:%0/00", "1:%0:00", "1:%0@00", "1:%0`00", "1:%0g00", "1:%0~00", "1:%0X00"});
+        addTexts({"text",    ":text",       "a:text",  "1:%",     "1:%12",   "1:%00G0", "1:a;b",
+                  "1:a;",    "1:a;2:%-001", "1:%003",  "1:%0/00", "1:%0:00", "1:%0@00", "1:%0`00",
+                  "1:%0g00", "1:%0~00",     "1:%0X00", "1:%001G", "1:%01G0", "1:%1G00"});
     }
     void refusesMalformedTextPairs()
     {

@@ -52,7 +52,8 @@ void drawLines(vtkAxis& axis)
     axis.SetGridVisible(true);
 }
 
-template <class Part> void setColour(Part& part, const QColor& colour)
+template <class Part>
+void setColour(Part& part, const QColor& colour)
 {
     part.SetColor(static_cast<unsigned char>(colour.red()), static_cast<unsigned char>(colour.green()),
                   static_cast<unsigned char>(colour.blue()), static_cast<unsigned char>(colour.alpha()));
@@ -65,8 +66,8 @@ void setUpBlock(vtkBlockItem& block)
     block.GetMouseOverBrush()->SetOpacityF(0);
 }
 
-// The bars' middles, heights and places in the table of colours. Behind the last stands one more, out of sight: the distance
-// of two tells VTK how wide a bar is.
+// The bars' middles, heights and places in the table of colours. Behind the last stands one more, out of sight: the
+// distance of two tells VTK how wide a bar is.
 vtkSmartPointer<vtkTable> tableOf(const std::vector<BarChart::Bar>& bars)
 {
     auto table = vtkSmartPointer<vtkTable>::New();

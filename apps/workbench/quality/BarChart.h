@@ -18,8 +18,8 @@ class vtkRenderer;
 
 namespace Workbench {
 
-/// Bars side by side over the whole width, drawn by VTK. It takes no input: the mouse and keys are those of the widget that
-/// it lies in, which says in words what the bars show.
+/// Bars side by side over the whole width, drawn by VTK. It takes no input: the mouse and keys are those of the widget
+/// that it lies in, which says in words what the bars show.
 class BarChart : public QVTKOpenGLNativeWidget
 {
     Q_OBJECT

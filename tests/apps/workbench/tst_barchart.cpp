@@ -16,7 +16,8 @@ const QColor blue(0, 0, 200);
 
 } // namespace
 
-/// The chart of bars, by the pixels on the screen: four bars in 200 x 100 pixels, each in the middle four fifths of its 50.
+/// The chart of bars, by the pixels on the screen: four bars in 200 x 100 pixels, each in the middle four fifths of
+/// its 50.
 class tst_BarChart : public QObject
 {
     Q_OBJECT
