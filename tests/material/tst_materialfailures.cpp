@@ -1,67 +1,18 @@
 // SPDX-FileCopyrightText: 2026 DataManager contributors
 // SPDX-License-Identifier: BSD-3-Clause
 
-// Records that cannot be created or serialised. That does not happen with the records as they are, so this program
-// puts itself in front of two functions: Qt's creation of objects by meta-object and the serializer. The serializer is
-// also where the memory ends.
-
 #include "MaterialFixture.h"
 
 #include <datamanager/material/ExampleLibraryManager.h>
 
-#include <basemodule/SerializerBase.h>
+#include <support/RecordFaults.h>
 
-#include <QMetaObject>
 #include <QtTest>
-
-#include <dlfcn.h>
-#include <new>
 
 using DataManager::ExampleLibraryManager;
 using DataManager::MaterialLibraryManager;
 
-namespace {
-
-bool isCreationFailing = false;
-bool isSerializationFailing = false;
-bool isMemoryShort = false;
-
-template <class Function>
-Function next(const char* mangledName)
-{
-    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, mangledName));
-}
-
-QStringList failedCreation(const char* className)
-{
-    return {QStringLiteral("critical: Failed to create an instance of type ") + QString::fromUtf8(className),
-            QStringLiteral("critical: Did you forget to declare a public parameterless Q_INVOKABLE constructor?")};
-}
-
-} // namespace
-
-QObject* QMetaObject::newInstance(QGenericArgument a0, QGenericArgument a1, QGenericArgument a2, QGenericArgument a3,
-                                  QGenericArgument a4, QGenericArgument a5, QGenericArgument a6, QGenericArgument a7,
-                                  QGenericArgument a8, QGenericArgument a9) const
-{
-    using Argument = QGenericArgument;
-    using Function = QObject* (*)(const QMetaObject*, Argument, Argument, Argument, Argument, Argument, Argument,
-                                  Argument, Argument, Argument, Argument);
-    static const auto original = next<Function>("_ZNK11QMetaObject11newInstanceE16QGenericArgumentS0_S0_S0_S0_S0_S0_S0_"
-                                                "S0_S0_");
-    return isCreationFailing ? nullptr : original(this, a0, a1, a2, a3, a4, a5, a6, a7, a8, a9);
-}
-
-QByteArray QJsonHelper::SerializerBase::serialize(const void* object, const QMetaObject& meta, bool isIndented)
-{
-    using Function = QByteArray (*)(const void*, const QMetaObject&, bool);
-    static const auto original = next<Function>("_ZN11QJsonHelper14SerializerBase9serializeEPKvRK11QMetaObjectb");
-    if (isMemoryShort) {
-        throw std::bad_alloc();
-    }
-    return isSerializationFailing ? QByteArray() : original(object, meta, isIndented);
-}
-
+/// Libraries whose records cannot be created or serialised.
 class TestMaterialFailures : public QObject
 {
     Q_OBJECT
@@ -89,9 +40,7 @@ void TestMaterialFailures::init()
 
 void TestMaterialFailures::cleanup()
 {
-    isCreationFailing = false;
-    isSerializationFailing = false;
-    isMemoryShort = false;
+    RecordFaults::now() = RecordFaults();
     m_fixture.reset();
 }
 
@@ -112,14 +61,14 @@ void TestMaterialFailures::logsMaterialsThatCannotBeCreated()
     const QString softwareLine = QStringLiteral("Deserialize software material data array fail!");
     const QString projectLine = QStringLiteral("Deserialize project material data array fail !");
     MaterialLibraryManager& manager = m_fixture->manager();
-    isCreationFailing = true;
+    RecordFaults::now().isCreationFailing = true;
     LogLines log;
     manager.initSoftwareMaterial();
-    QCOMPARE(log.take(), failedCreation("DataModel::MaterialDataArray") << softwareLine);
+    QCOMPARE(log.take(), RecordFaults::failedCreation("DataModel::MaterialDataArray") << softwareLine);
     // The software library's counter stays, the project's is set from the empty map.
     QCOMPARE(m_fixture->software(), QStringLiteral("next 2"));
     manager.initProjectMaterial();
-    QCOMPARE(log.take(), failedCreation("DataModel::MaterialDataArray") << projectLine);
+    QCOMPARE(log.take(), RecordFaults::failedCreation("DataModel::MaterialDataArray") << projectLine);
     QCOMPARE(m_fixture->project(), QStringLiteral("next 1"));
 
     // What was not read is not lost by the next save.
@@ -134,7 +83,7 @@ void TestMaterialFailures::logsMaterialsThatCannotBeCreated()
     manager.initSoftwareMaterial();
     QCOMPARE(log.take(), QStringList(QStringLiteral("Read software material library file fail, please check path: ") +
                                      m_fixture->softwarePath())
-                             << failedCreation("DataModel::MaterialDataArray") << softwareLine);
+                             << RecordFaults::failedCreation("DataModel::MaterialDataArray") << softwareLine);
     manager.initProjectMaterial();
     QCOMPARE(log.take(), QStringList(QStringLiteral("Read project material library file fail, please check path: ") +
                                      m_fixture->projectPath()));
@@ -143,10 +92,10 @@ void TestMaterialFailures::logsMaterialsThatCannotBeCreated()
 void TestMaterialFailures::startsWithoutMaterialsThatCannotBeCreated()
 {
     m_fixture->createSoftware(QStringLiteral("a"));
-    isCreationFailing = true;
+    RecordFaults::now().isCreationFailing = true;
     LogLines log;
     m_fixture->newManager();
-    QCOMPARE(log.take(), failedCreation("DataModel::MaterialDataArray")
+    QCOMPARE(log.take(), RecordFaults::failedCreation("DataModel::MaterialDataArray")
                              << QStringLiteral("Deserialize software material data array fail!"));
     QCOMPARE(m_fixture->software(), QStringLiteral("next 1"));
     QCOMPARE(m_fixture->project(), QStringLiteral("next 1"));
@@ -158,7 +107,7 @@ void TestMaterialFailures::logsMaterialsThatCannotBeSerialized()
     m_fixture->createProject(QStringLiteral("a"));
     const QByteArray softwareFile = contentOf(m_fixture->softwarePath());
     const QByteArray projectFile = contentOf(m_fixture->projectPath());
-    isSerializationFailing = true;
+    RecordFaults::now().isSerializationFailing = true;
     expectLine(QStringLiteral("Serialize software material data array fail!"));
     m_fixture->createSoftware(QStringLiteral("b"));
     expectLine(QStringLiteral("Serialize project material data array fail!"));
@@ -171,12 +120,12 @@ void TestMaterialFailures::logsMaterialsThatCannotBeSerialized()
 
 void TestMaterialFailures::logsExamplesThatCannotBeCreated()
 {
-    isCreationFailing = true;
+    RecordFaults::now().isCreationFailing = true;
     const QString path = QCoreApplication::applicationDirPath() + QStringLiteral("/ConfigFiles/ExampleLibrary.json");
     LogLines log;
     const std::unique_ptr<ExampleLibraryManager> manager(new ExampleLibraryManager);
     QCOMPARE(log.take(), QStringList(QStringLiteral("read Example file fail, please check path: ") + path)
-                             << failedCreation("DataModel::ExampleLibData")
+                             << RecordFaults::failedCreation("DataModel::ExampleLibData")
                              << QStringLiteral("deserialize Example fail !"));
     QVERIFY(manager->getExampleLibData().isNull());
     manager->saveData();
@@ -189,7 +138,7 @@ void TestMaterialFailures::logsExamplesThatCannotBeSerialized()
     const QString path = QCoreApplication::applicationDirPath() + QStringLiteral("/ConfigFiles/ExampleLibrary.json");
     writeContent(path, "{\"exampleList\":[]}");
     const std::unique_ptr<ExampleLibraryManager> manager(new ExampleLibraryManager);
-    isSerializationFailing = true;
+    RecordFaults::now().isSerializationFailing = true;
     expectLine(QStringLiteral("serialize Example fail !"));
     manager->saveData();
     QCOMPARE(contentOf(path), QByteArray("{\"exampleList\":[]}"));
@@ -200,9 +149,9 @@ void TestMaterialFailures::keepsMaterialsThatDoNotFitIntoTheMemory()
 {
     const QByteArray content = R"({"materialList":[{"id":1,"englishName":"a","colour":"red"}]})";
     writeContent(m_fixture->softwarePath(), content);
-    isMemoryShort = true;
+    RecordFaults::now().serializationsLeft = 0;
     m_fixture->newManager();
-    isMemoryShort = false;
+    RecordFaults::now().serializationsLeft = -1;
     QCOMPARE(m_fixture->software(), QStringLiteral("next 1"));
     m_fixture->createSoftware(QStringLiteral("new"));
     QCOMPARE(contentOf(m_fixture->softwarePath() + QStringLiteral(".unreadable")), content);
@@ -213,9 +162,9 @@ void TestMaterialFailures::keepsExamplesThatDoNotFitIntoTheMemory()
     const QString path = QCoreApplication::applicationDirPath() + QStringLiteral("/ConfigFiles/ExampleLibrary.json");
     const QByteArray content = R"({"exampleList":[{"englishTitle":"t","colour":"red"}]})";
     writeContent(path, content);
-    isMemoryShort = true;
+    RecordFaults::now().serializationsLeft = 0;
     const std::unique_ptr<ExampleLibraryManager> manager(new ExampleLibraryManager);
-    isMemoryShort = false;
+    RecordFaults::now().serializationsLeft = -1;
     manager->saveData();
     QCOMPARE(contentOf(path + QStringLiteral(".unreadable")), content);
 }
