@@ -510,6 +510,21 @@ By keys: arrows mark a bar, with Shift several; Space or Enter selects.</transla
         <source>Comparison</source>
         <translation>Comparison</translation>
     </message>
+    <message>
+        <source>refused: material %1 there is called &apos;%2&apos;, too</source>
+        <translation>refused: material %1 there is called &apos;%2&apos;, too</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::ImportRefusal</name>
+    <message>
+        <source>&apos;%1&apos; and &apos;%2&apos; would both replace &apos;%3&apos;: only one can.</source>
+        <translation>&apos;%1&apos; and &apos;%2&apos; would both replace &apos;%3&apos;: only one can.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be copied: &apos;%2&apos; there would be called &apos;%3&apos;, too.</source>
+        <translation>&apos;%1&apos; cannot be copied: &apos;%2&apos; there would be called &apos;%3&apos;, too.</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::KernelChoice</name>

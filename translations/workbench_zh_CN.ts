@@ -510,6 +510,21 @@ By keys: arrows mark a bar, with Shift several; Space or Enter selects.</source>
         <source>Comparison</source>
         <translation>比较</translation>
     </message>
+    <message>
+        <source>refused: material %1 there is called &apos;%2&apos;, too</source>
+        <translation>拒绝：那里的材料 %1 也叫“%2”</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::ImportRefusal</name>
+    <message>
+        <source>&apos;%1&apos; and &apos;%2&apos; would both replace &apos;%3&apos;: only one can.</source>
+        <translation>“%1”和“%2”都会替换“%3”：只能有一个。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be copied: &apos;%2&apos; there would be called &apos;%3&apos;, too.</source>
+        <translation>无法复制“%1”：那里的“%2”也会叫“%3”。</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::KernelChoice</name>

@@ -28,15 +28,41 @@ bool isReserved(const QString& name)
     return name == QLatin1String("Free Space") || name == QStringLiteral("自由空间");
 }
 
-Comparison compare(const Material& source, const Material& target)
+using MaterialsByName = QHash<QString, Material>;
+
+MaterialsByName byNames(const QList<Material>& materials)
+{
+    MaterialsByName byName;
+    // The first of several materials with one name counts, as in the manager's own search.
+    for (int i = materials.size() - 1; i >= 0; --i) {
+        for (const QString& name : {materials.at(i)->chineseName, materials.at(i)->englishName}) {
+            if (!materials.at(i)->isDeleted && !name.isEmpty()) {
+                byName.insert(name, materials.at(i));
+            }
+        }
+    }
+    return byName;
+}
+
+/// Refused where the target would get a name that another one has.
+Comparison update(const Material& source, const Material& target, const MaterialsByName& targets)
+{
+    for (const QString& name : {source->englishName, source->chineseName}) {
+        const Material holder = targets.value(name);
+        if (!holder.isNull() && name != target->englishName && name != target->chineseName) {
+            return {Comparison::Refused, source, {}, name, holder};
+        }
+    }
+    return {contentOf(*source) == contentOf(*target) ? Comparison::Same : Comparison::Changed, source, target, {}, {}};
+}
+
+Comparison compare(const Material& source, const MaterialsByName& targets)
 {
     if (isReserved(source->chineseName) || isReserved(source->englishName)) {
-        return {Comparison::Refused, source, {}};
+        return {Comparison::Refused, source, {}, {}, {}};
     }
-    if (target.isNull()) {
-        return {Comparison::New, source, {}};
-    }
-    return {contentOf(*source) == contentOf(*target) ? Comparison::Same : Comparison::Changed, source, target};
+    const Material target = targets.value(source->englishName, targets.value(source->chineseName));
+    return target.isNull() ? Comparison{Comparison::New, source, {}, {}, {}} : update(source, target, targets);
 }
 
 } // namespace
@@ -51,19 +77,11 @@ Console::Message Comparison::word() const
 
 QList<Comparison> compareMaterials(const QList<Material>& sources, const QList<Material>& targets)
 {
-    QHash<QString, Material> byName;
-    // The first of several materials with one name counts, as in the manager's own search.
-    for (int i = targets.size() - 1; i >= 0; --i) {
-        if (!targets.at(i)->isDeleted) {
-            byName.insert(targets.at(i)->chineseName, targets.at(i));
-            byName.insert(targets.at(i)->englishName, targets.at(i));
-        }
-    }
+    const MaterialsByName byName = byNames(targets);
     QList<Comparison> comparisons;
     for (const Material& source : sources) {
         if (!source->isDeleted) {
-            const Material byChinese = byName.value(source->chineseName);
-            comparisons.append(compare(source, byName.value(source->englishName, byChinese)));
+            comparisons.append(compare(source, byName));
         }
     }
     return comparisons;

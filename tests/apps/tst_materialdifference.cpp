@@ -67,7 +67,7 @@ QStringList texts(const QVector<Materials::Difference>& differences)
 
 } // namespace
 
-/// Which members differ between two materials.
+/// Which members differ between two materials, and what that means for a library.
 class tst_MaterialDifference : public QObject
 {
     Q_OBJECT
@@ -75,6 +75,8 @@ class tst_MaterialDifference : public QObject
 private Q_SLOTS:
     void namesWhatDiffers_data();
     void namesWhatDiffers();
+    void refusesTheNameOfAnother();
+    void missingNamesAreNoNames();
 };
 
 void tst_MaterialDifference::namesWhatDiffers_data()
@@ -110,6 +112,37 @@ void tst_MaterialDifference::namesWhatDiffers()
     // The comparison says the same.
     const auto state = Materials::compareMaterials({source}, {target}).first().state;
     QCOMPARE(state, expected.isEmpty() ? Materials::Comparison::Same : Materials::Comparison::Changed);
+}
+
+void tst_MaterialDifference::refusesTheNameOfAnother()
+{
+    const auto own = copper();
+    const auto other = copper();
+    own->chineseName = QStringLiteral("紫铜");
+    other->englishName = QStringLiteral("Bronze");
+    const Materials::Comparison comparison = Materials::compareMaterials({copper()}, {own, other}).first();
+    QCOMPARE(comparison.state, Materials::Comparison::Refused);
+    QCOMPARE(comparison.takenName, QStringLiteral("铜"));
+    QCOMPARE(comparison.holder, other);
+    QVERIFY(comparison.target.isNull());
+    // What is deleted has no name.
+    other->isDeleted = true;
+    QCOMPARE(Materials::compareMaterials({copper()}, {own, other}).first().state, Materials::Comparison::Changed);
+    // Two that share the name already get none.
+    other->isDeleted = false;
+    own->chineseName = QStringLiteral("铜");
+    own->property1->flag = true;
+    QCOMPARE(Materials::compareMaterials({copper()}, {own, other}).first().target, own);
+}
+
+void tst_MaterialDifference::missingNamesAreNoNames()
+{
+    const auto source = copper();
+    const auto target = copper();
+    source->chineseName.clear();
+    target->chineseName.clear();
+    target->englishName = QStringLiteral("Bronze");
+    QCOMPARE(Materials::compareMaterials({source}, {target}).first().state, Materials::Comparison::New);
 }
 
 QTEST_APPLESS_MAIN(tst_MaterialDifference)

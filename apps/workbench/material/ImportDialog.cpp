@@ -4,6 +4,8 @@
 #include <workbench/material/ImportDialog.h>
 
 #include <materials/Difference.h>
+#include <workbench/dialog/Refusal.h>
+#include <workbench/material/ImportRefusal.h>
 #include <workbench/material/MaterialLibraries.h>
 #include <workbench/material/MaterialName.h>
 
@@ -15,6 +17,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSet>
+#include <QSignalBlocker>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -24,9 +27,9 @@ namespace {
 
 using Materials::Comparison;
 
-QString stateTitle(Comparison::State state)
+QString stateTitle(const Comparison& comparison)
 {
-    switch (state) {
+    switch (comparison.state) {
     case Comparison::New:
         return ImportDialog::tr("new");
     case Comparison::Same:
@@ -34,7 +37,10 @@ QString stateTitle(Comparison::State state)
     case Comparison::Changed:
         return ImportDialog::tr("changed");
     case Comparison::Refused:
-        return ImportDialog::tr("refused: reserved name");
+        return comparison.holder.isNull() ? ImportDialog::tr("refused: reserved name")
+                                          : ImportDialog::tr("refused: material %1 there is called '%2', too")
+                                                .arg(comparison.holder->id)
+                                                .arg(comparison.takenName);
     }
     return {};
 }
@@ -49,7 +55,8 @@ void ImportDialog::openFor(BaseModule::MaterialLibType from, const QList<int>& i
 }
 
 ImportDialog::ImportDialog(BaseModule::MaterialLibType from, const QList<int>& ids, QWidget* parent)
-    : QDialog(parent), m_from(from), m_list(new QTreeWidget(this)), m_counts(new QLabel(this)), m_copy(nullptr)
+    : QDialog(parent), m_from(from), m_list(new QTreeWidget(this)), m_counts(new QLabel(this)),
+      m_refusal(new Refusal(this)), m_copy(nullptr)
 {
     setObjectName(QStringLiteral("importDialog"));
     m_list->setObjectName(QStringLiteral("comparisons"));
@@ -59,6 +66,7 @@ ImportDialog::ImportDialog(BaseModule::MaterialLibType from, const QList<int>& i
     layOut();
     retranslate();
     m_list->header()->resizeSections(QHeaderView::ResizeToContents);
+    connect(m_list, &QTreeWidget::itemChanged, this, &ImportDialog::check);
 }
 
 void ImportDialog::compare(const QList<int>& ids)
@@ -118,6 +126,7 @@ void ImportDialog::layOut()
     auto* const whole = new QVBoxLayout(this);
     whole->addWidget(m_list);
     whole->addWidget(m_counts);
+    whole->addWidget(m_refusal);
     whole->addWidget(buttons);
     resize(fontMetrics().averageCharWidth() * 100, fontMetrics().height() * 30);
 }
@@ -127,11 +136,13 @@ void ImportDialog::retranslate()
     setWindowTitle(tr("Copy from: %1, to: %2").arg(libraryTitle(m_from), libraryTitle(otherLibrary(m_from))));
     m_list->setHeaderLabels({tr("Material"), tr("State"), tr("Here"), tr("There")});
     m_list->setAccessibleName(tr("Comparison"));
+    const QSignalBlocker unchanged(m_list);
     for (int i = 0; i < m_comparisons.size(); ++i) {
-        m_list->topLevelItem(i)->setText(1, stateTitle(m_comparisons.at(i).state));
+        m_list->topLevelItem(i)->setText(1, stateTitle(m_comparisons.at(i)));
     }
     m_copy->setText(tr("Copy"));
     showCounts();
+    check();
 }
 
 // After the buttons, which write their own texts again.
@@ -143,15 +154,36 @@ void ImportDialog::changeEvent(QEvent* event)
     QDialog::changeEvent(event);
 }
 
+QList<Comparison> ImportDialog::chosen() const
+{
+    QList<Comparison> chosen;
+    for (int i = 0; i < m_comparisons.size(); ++i) {
+        if (m_list->topLevelItem(i)->checkState(0) == Qt::Checked) {
+            chosen.append(m_comparisons.at(i));
+        }
+    }
+    return chosen;
+}
+
+bool ImportDialog::check()
+{
+    const QString reason = importRefusal(otherLibrary(m_from), chosen());
+    if (reason.isEmpty()) {
+        m_refusal->clear();
+    } else {
+        m_refusal->tell(reason, m_list);
+    }
+    return reason.isEmpty();
+}
+
 void ImportDialog::accept()
 {
+    if (!check()) {
+        return;
+    }
     QList<int> newIDs;
     QList<QPair<int, int>> updates;
-    for (int i = 0; i < m_comparisons.size(); ++i) {
-        const Comparison& comparison = m_comparisons.at(i);
-        if (m_list->topLevelItem(i)->checkState(0) != Qt::Checked) {
-            continue;
-        }
+    for (const Comparison& comparison : chosen()) {
         if (comparison.state == Comparison::New) {
             newIDs.append(comparison.source->id);
         } else {

@@ -15,8 +15,11 @@ class QTreeWidgetItem;
 
 namespace Workbench {
 
+class Refusal;
+
 /// Compares materials of one library with the other one, and then copies the chosen ones: new materials under new
-/// identifiers, changed ones onto the material that has their name. What differs stands below each changed material.
+/// identifiers, changed ones onto the material that has their name. What differs stands below each changed material;
+/// why one is refused beside it, and why the chosen ones cannot be copied together below them all.
 class ImportDialog : public QDialog
 {
     Q_OBJECT
@@ -35,6 +38,8 @@ private:
 
     void compare(const QList<int>& ids);
     void addComparison(const Materials::Comparison& comparison);
+    QList<Materials::Comparison> chosen() const;
+    bool check();
     void showCounts();
     void layOut();
     void retranslate();
@@ -43,6 +48,7 @@ private:
     QList<Materials::Comparison> m_comparisons;
     QTreeWidget* m_list;
     QLabel* m_counts;
+    Refusal* m_refusal;
     QPushButton* m_copy;
 };
 

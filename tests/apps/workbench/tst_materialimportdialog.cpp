@@ -41,11 +41,19 @@ private Q_SLOTS:
     void replacesChangedOnes();
     void copiesTheOtherWay();
     void comparesTheOtherWay();
+    void refusesANameOfAnother();
+    void refusesOneNameForTwo();
+    void refusesTwoForOne();
+    void keepsNamesInCommon();
+    void comparesWithoutNames();
     void cancels();
     void copiesNothing();
 
 private:
     QWidget& open(const char* button);
+    /// A material of the software library with these names.
+    void createSoftware(const char* english, const char* chinese);
+    QString project(int id);
 
     std::unique_ptr<MaterialViewFixture> m_fixture;
 };
@@ -158,6 +166,104 @@ void tst_MaterialImportDialog::comparesTheOtherWay()
     const auto changed = m_fixture->libraries().manager().getSoftwareMatByID(3);
     QCOMPARE(changed->chineseName, text("变"));
     QCOMPARE(changed->property1->components.at(4), 0.1);
+}
+
+void tst_MaterialImportDialog::createSoftware(const char* english, const char* chinese)
+{
+    const auto property = MaterialFixture::property(text("p"), 7);
+    m_fixture->libraries().manager().createSoftwareMat(text(chinese), text(english), property, {}, {}, {}, {});
+}
+
+/// "Same 中Same 1": the names and the first component.
+QString tst_MaterialImportDialog::project(int id)
+{
+    const auto material = m_fixture->libraries().manager().getProjectMatByID(id);
+    return text("%1 %2 %3")
+        .arg(material->englishName, material->chineseName)
+        .arg(material->property1->components.value(0));
+}
+
+void tst_MaterialImportDialog::refusesANameOfAnother()
+{
+    createSoftware("Own", "中Same");
+    m_fixture->choose("materialsSoftware", {6});
+    QWidget& dialog = open("importFromSoftware");
+    QCOMPARE(rows(part<QTreeWidget>(dialog, "comparisons")),
+             QStringList(text("( ) Own  中Same: refused: material 2 there is called '中Same', too")));
+    QVERIFY(shown(dialog, "counts").startsWith(text("0 new, 0 same, 0 changed, 1 refused.")));
+    press(dialog, QDialogButtonBox::Ok);
+    QCOMPARE(project(3), text("Own 中Own 1"));
+    QCOMPARE(project(2), text("Same 中Same 1"));
+}
+
+void tst_MaterialImportDialog::refusesOneNameForTwo()
+{
+    createSoftware("Iron", "铁");
+    createSoftware("Iron oxide", "铁");
+    m_fixture->choose("materialsSoftware", {6, 7});
+    QWidget& dialog = open("importFromSoftware");
+    QTreeWidget& list = part<QTreeWidget>(dialog, "comparisons");
+    QCOMPARE(rows(list), QStringList({text("[x] Iron  铁: new"), text("[x] Iron oxide  铁: new")}));
+    QCOMPARE(shown(dialog, "refusal"), text("'Iron oxide' cannot be copied: 'Iron' there would be called '铁', too."));
+    MaterialViewLog log(m_fixture->libraries());
+    press(dialog, QDialogButtonBox::Ok);
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(log.take(), QStringList());
+    list.topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+    QCOMPARE(shown(dialog, "refusal"), QString());
+    press(dialog, QDialogButtonBox::Ok);
+    finishClosing();
+    QCOMPARE(m_fixture->libraries().project(), text("1:Changed 2:Same 3:Own 4:Iron oxide next 5"));
+}
+
+// One has the English name of it, another one the Chinese.
+void tst_MaterialImportDialog::refusesTwoForOne()
+{
+    createSoftware("Own", "自有");
+    createSoftware("Other", "中Own");
+    m_fixture->choose("materialsSoftware", {6, 7});
+    QWidget& dialog = open("importFromSoftware");
+    QTreeWidget& list = part<QTreeWidget>(dialog, "comparisons");
+    QCOMPARE(list.topLevelItemCount(), 2);
+    list.topLevelItem(0)->setCheckState(0, Qt::Checked);
+    QCOMPARE(shown(dialog, "refusal"), QString());
+    list.topLevelItem(1)->setCheckState(0, Qt::Checked);
+    QCOMPARE(shown(dialog, "refusal"), text("'Own' and 'Other' would both replace 'Own': only one can."));
+    press(dialog, QDialogButtonBox::Ok);
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(project(3), text("Own 中Own 1"));
+    list.topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+    press(dialog, QDialogButtonBox::Ok);
+    QCOMPARE(project(3), text("Other 中Own 7"));
+}
+
+// Libraries from elsewhere may have one name twice; what has it keeps it.
+void tst_MaterialImportDialog::keepsNamesInCommon()
+{
+    m_fixture->libraries().manager().getProjectMatByID(2)->chineseName = text("中Own");
+    createSoftware("Own", "中Own");
+    m_fixture->choose("materialsSoftware", {6});
+    QWidget& dialog = open("importFromSoftware");
+    QTreeWidget& list = part<QTreeWidget>(dialog, "comparisons");
+    list.topLevelItem(0)->setCheckState(0, Qt::Checked);
+    QCOMPARE(shown(dialog, "refusal"), QString());
+    press(dialog, QDialogButtonBox::Ok);
+    QCOMPARE(project(3), text("Own 中Own 7"));
+    QCOMPARE(project(2), text("Same 中Own 1"));
+}
+
+void tst_MaterialImportDialog::comparesWithoutNames()
+{
+    m_fixture->libraries().manager().getProjectMatByID(3)->chineseName = QString();
+    createSoftware("Iron", "");
+    createSoftware("Gold", "");
+    m_fixture->choose("materialsSoftware", {6, 7});
+    QWidget& dialog = open("importFromSoftware");
+    QCOMPARE(rows(part<QTreeWidget>(dialog, "comparisons")),
+             QStringList({text("[x] Iron  : new"), text("[x] Gold  : new")}));
+    QCOMPARE(shown(dialog, "refusal"), QString());
+    press(dialog, QDialogButtonBox::Ok);
+    QCOMPARE(m_fixture->libraries().project(), text("1:Changed 2:Same 3:Own 4:Iron 5:Gold next 6"));
 }
 
 void tst_MaterialImportDialog::cancels()
