@@ -934,6 +934,17 @@ Version %1</translation>
     </message>
 </context>
 <context>
+    <name>Workbench::MaterialNumber</name>
+    <message>
+        <source>A new material would get number %1 and replace &apos;%2&apos;: the numbers of this library have gaps.</source>
+        <translation>A new material would get number %1 and replace &apos;%2&apos;: the numbers of this library have gaps.</translation>
+    </message>
+    <message>
+        <source>A new material would get number %1, which volume &apos;%2&apos; has from a material that is missing. Give the volumes with this number another material, or make them free space, first.</source>
+        <translation>A new material would get number %1, which volume &apos;%2&apos; has from a material that is missing. Give the volumes with this number another material, or make them free space, first.</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::MaterialTable</name>
     <message>
         <source>ID</source>

@@ -934,6 +934,17 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Workbench::MaterialNumber</name>
+    <message>
+        <source>A new material would get number %1 and replace &apos;%2&apos;: the numbers of this library have gaps.</source>
+        <translation>新材料会得到编号 %1 并替换“%2”：此材料库的编号不连续。</translation>
+    </message>
+    <message>
+        <source>A new material would get number %1, which volume &apos;%2&apos; has from a material that is missing. Give the volumes with this number another material, or make them free space, first.</source>
+        <translation>新材料会得到编号 %1，而体“%2”仍引用该编号的缺失材料。请先为使用此编号的体指定其他材料，或设为自由空间。</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::MaterialTable</name>
     <message>
         <source>ID</source>

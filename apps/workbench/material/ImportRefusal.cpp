@@ -5,6 +5,7 @@
 
 #include <workbench/material/MaterialLibraries.h>
 #include <workbench/material/MaterialName.h>
+#include <workbench/material/MaterialNumber.h>
 
 #include <datamodel/MaterialData.h>
 
@@ -12,6 +13,8 @@
 #include <QHash>
 #include <QSet>
 #include <QStringList>
+
+#include <algorithm>
 
 namespace Workbench {
 
@@ -87,12 +90,19 @@ QString twiceNamed(BaseModule::MaterialLibType library, const QList<Comparison>&
     return {};
 }
 
+int newOnes(const QList<Comparison>& copies)
+{
+    return static_cast<int>(std::count_if(copies.begin(), copies.end(),
+                                          [](const Comparison& copy) { return copy.state == Comparison::New; }));
+}
+
 } // namespace
 
 QString importRefusal(BaseModule::MaterialLibType library, const QList<Comparison>& copies)
 {
-    const QString refusal = twiceReplaced(copies);
-    return refusal.isEmpty() ? twiceNamed(library, copies) : refusal;
+    QString refusal = twiceReplaced(copies);
+    refusal = refusal.isEmpty() ? twiceNamed(library, copies) : refusal;
+    return refusal.isEmpty() ? materialNumberRefusal(library, newOnes(copies)) : refusal;
 }
 
 } // namespace Workbench

@@ -12,7 +12,7 @@
 namespace Workbench {
 
 /// Why these new and changed materials must not be copied into the library together, for the user; empty when they may:
-/// two there would have one name, or one would be replaced twice.
+/// two there would have one name, one would be replaced twice, or there is no number for a new one.
 QString importRefusal(BaseModule::MaterialLibType library, const QList<Materials::Comparison>& copies);
 
 } // namespace Workbench

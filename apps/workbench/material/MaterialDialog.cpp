@@ -7,6 +7,7 @@
 #include <workbench/dialog/Refusal.h>
 #include <workbench/material/MaterialLibraries.h>
 #include <workbench/material/MaterialName.h>
+#include <workbench/material/MaterialNumber.h>
 #include <workbench/material/NumberField.h>
 #include <workbench/material/PropertyEditor.h>
 
@@ -49,6 +50,7 @@ MaterialDialog::MaterialDialog(BaseModule::MaterialLibType type, const Materials
     layOut();
     retranslate();
     showAllTabs();
+    checkNumber();
 }
 
 void MaterialDialog::createEditors(const Materials::Material& material)
@@ -133,9 +135,21 @@ void MaterialDialog::accept()
     }
 }
 
+bool MaterialDialog::checkNumber()
+{
+    const QString reason = m_id == 0 ? materialNumberRefusal(m_type, 1) : QString();
+    if (!reason.isEmpty()) {
+        m_refusal->tell(reason, m_englishName);
+    }
+    return reason.isEmpty();
+}
+
 bool MaterialDialog::check()
 {
     m_refusal->clear();
+    if (!checkNumber()) {
+        return false;
+    }
     for (QLineEdit* const field : {m_englishName, m_chineseName}) {
         const QString reason = materialNameRefusal(m_type, field->text(), m_id);
         if (!reason.isEmpty()) {

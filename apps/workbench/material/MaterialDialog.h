@@ -47,6 +47,7 @@ private:
     void nameTab(int index);
     /// False when a name or a number is refused; then the reason is shown, and the field has the focus.
     bool check();
+    bool checkNumber();
     void apply();
 
     BaseModule::MaterialLibType m_type;
