@@ -6,6 +6,7 @@
 #include <datamanager/meshquality/private/MeshTables.h>
 #include <datamanager/meshquality/private/VectorTable.h>
 
+#include <algorithm>
 #include <new>
 
 namespace DataManager {
@@ -46,7 +47,9 @@ void appendMesh(const QString& path, QVector<QVector<double>>& nodes, QVector<QV
     }
     elements.reserve(elements.size() + static_cast<int>(tables.tetrahedra.size()));
     for (const NodeNumbers& numbers : tables.tetrahedra) {
-        elements.append({numbers[0], numbers[1], numbers[2], numbers[3]});
+        QVector<int> corners(4); // a list of values would not tell when the memory ends
+        std::copy(numbers.begin(), numbers.end(), corners.begin());
+        elements.append(corners);
     }
 }
 

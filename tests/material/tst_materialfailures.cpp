@@ -27,6 +27,7 @@ private Q_SLOTS:
     void logsExamplesThatCannotBeCreated();
     void logsExamplesThatCannotBeSerialized();
     void keepsMaterialsThatDoNotFitIntoTheMemory();
+    void takesNoPartOfAContent();
     void keepsExamplesThatDoNotFitIntoTheMemory();
 
 private:
@@ -150,11 +151,26 @@ void TestMaterialFailures::keepsMaterialsThatDoNotFitIntoTheMemory()
     const QByteArray content = R"({"materialList":[{"id":1,"englishName":"a","colour":"red"}]})";
     writeContent(m_fixture->softwarePath(), content);
     RecordFaults::now().serializationsLeft = 0;
+    LogLines log;
     m_fixture->newManager();
+    QCOMPARE(log.take(), QStringList()); // as for an empty file
     RecordFaults::now().serializationsLeft = -1;
     QCOMPARE(m_fixture->software(), QStringLiteral("next 1"));
     m_fixture->createSoftware(QStringLiteral("new"));
     QCOMPARE(contentOf(m_fixture->softwarePath() + QStringLiteral(".unreadable")), content);
+}
+
+/// The record has the first of two by then.
+void TestMaterialFailures::takesNoPartOfAContent()
+{
+    const QByteArray content = R"({"materialList":[{"id":1,"englishName":"a"},{"id":2,"englishName":"b"}]})";
+    writeContent(m_fixture->softwarePath(), content);
+    RecordFaults::now().creationsLeft = 2;
+    m_fixture->newManager();
+    QCOMPARE(RecordFaults::now().creationsLeft, -1);
+    QCOMPARE(m_fixture->software(), QStringLiteral("next 1"));
+    m_fixture->newManager();
+    QCOMPARE(m_fixture->software(), QStringLiteral("1:a 2:b next 3"));
 }
 
 void TestMaterialFailures::keepsExamplesThatDoNotFitIntoTheMemory()

@@ -29,7 +29,13 @@ QObject* QMetaObject::newInstance(QGenericArgument a0, QGenericArgument a1, QGen
                                   Argument, Argument, Argument, Argument);
     static const auto original = next<Function>("_ZNK11QMetaObject11newInstanceE16QGenericArgumentS0_S0_S0_S0_S0_S0_S0_"
                                                 "S0_S0_");
-    return RecordFaults::now().isCreationFailing ? nullptr : original(this, a0, a1, a2, a3, a4, a5, a6, a7, a8, a9);
+    RecordFaults& faults = RecordFaults::now();
+    if (faults.creationsLeft == 0) {
+        faults.creationsLeft = -1;
+        throw std::bad_alloc();
+    }
+    faults.creationsLeft -= faults.creationsLeft > 0 ? 1 : 0;
+    return faults.isCreationFailing ? nullptr : original(this, a0, a1, a2, a3, a4, a5, a6, a7, a8, a9);
 }
 
 QByteArray QJsonHelper::SerializerBase::serialize(const void* object, const QMetaObject& meta, bool isIndented)

@@ -14,6 +14,8 @@ struct RecordFaults
     bool isSerializationFailing = false;
     /// How many records are serialised before the memory ends; negative: it never does.
     int serializationsLeft = -1;
+    /// How many records are created before it ends, for one more.
+    int creationsLeft = -1;
 
     /// Those that are in force.
     static RecordFaults& now()

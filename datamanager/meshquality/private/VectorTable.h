@@ -24,9 +24,15 @@ inline Tetrahedron::Vector plain(const QVector<double>& v)
     return {component(v, 0), component(v, 1), component(v, 2)};
 }
 
+/// Throws std::bad_alloc where the memory ends, which a vector made of a list of values would not.
 inline QVector<double> table(const Tetrahedron::Vector& v)
 {
-    return {v.x, v.y, v.z};
+    QVector<double> values(3);
+    double* const place = values.data();
+    place[0] = v.x;
+    place[1] = v.y;
+    place[2] = v.z;
+    return values;
 }
 
 inline double valueAt(const QVector<double>& values, int index)
