@@ -69,6 +69,15 @@ report "the library includes from the programs, or a sibling from the library" \
   "$({ printf '%s\n' "${sources[@]}" | grep -E '^(datamanager|platform)/' |
       xargs grep -nE '^#include <(apps|console|meshquality|materials|workbench)/'
     printf '%s\n' "${sources[@]}" | grep -E '^platform/' | xargs grep -nE '^#include <datamanager/'; } || true)"
+# The workbench's views talk through managers; only the main window, which places them, knows them.
+window=apps/workbench/window/MainWindow
+mapfile -t views < <(sed -nE 's|^#include <(workbench/[^>]*)>.*|apps/\1|p' "$window"*.cpp "$window.h" | sort -u |
+  xargs grep -lE '^class [A-Za-z0-9_]+ : public Q[A-Za-z]*(Widget|View|Frame)$')
+[ "${#views[@]}" -gt 0 ] || { echo "check-sources: no views found in $window" >&2; exit 1; }
+report "a view is known beside its own sources and the main window" "$(for view in "${views[@]}"; do
+  printf '%s\n' "${sources[@]}" | grep -E '^apps/' | grep -vE "^(${view%.h}|$window)[A-Za-z0-9]*\.(cpp|h)$" |
+    xargs grep -nF "#include <${view#apps/}>" || true
+done)"
 report "Qt's keywords" "$(grep -nE '^ *(signals|(public|private|protected) slots|slots):|^ *emit [a-z]|\bQ?foreach *\(' \
   "${sources[@]}" || true)"
 

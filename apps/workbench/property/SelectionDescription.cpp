@@ -7,7 +7,6 @@
 #include <workbench/material/MaterialName.h>
 #include <workbench/mesh/MeshManager.h>
 #include <workbench/project/Project.h>
-#include <workbench/property/PropertyTable.h>
 
 #include <basemodule/SelectModel.h>
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
@@ -15,6 +14,7 @@
 #include <datamanager/selection/SelectedDataManager.h>
 #include <datamodel/SelectedDataBase.h>
 
+#include <QCoreApplication>
 #include <QDir>
 
 using DataManager::MeshQualityReport;
@@ -23,6 +23,12 @@ using DataModel::PropertyTableData;
 
 namespace Workbench {
 namespace {
+
+/// Translated with the table that shows them.
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Workbench::PropertyTable)
+};
 
 QString number(double value)
 {
@@ -42,39 +48,39 @@ void addRow(PropertyTableData& table, const QString& key, const QString& value)
 void addBox(PropertyTableData& table, const QVector<double>& box)
 {
     if (box.size() == 6) {
-        addRow(table, PropertyTable::tr("from (x, y, z)"), point(box[0], box[2], box[4]));
-        addRow(table, PropertyTable::tr("to (x, y, z)"), point(box[1], box[3], box[5]));
+        addRow(table, Texts::tr("from (x, y, z)"), point(box[0], box[2], box[4]));
+        addRow(table, Texts::tr("to (x, y, z)"), point(box[1], box[3], box[5]));
     }
 }
 
 void describeVolume(PropertyTableData& table, int componentID)
 {
     GeometryManager* geometry = GeometryManager::instance();
-    addRow(table, PropertyTable::tr("volume"), geometry->getComponentName(componentID));
-    addRow(table, PropertyTable::tr("number"), QString::number(componentID));
-    addRow(table, PropertyTable::tr("material"), fillingTitle(geometry->getMaterialID(componentID)));
-    addRow(table, PropertyTable::tr("physical group"), QString::number(geometry->getVolumeTag(componentID)));
-    addRow(table, PropertyTable::tr("faces"), QString::number(geometry->getFaces(componentID).size()));
+    addRow(table, Texts::tr("volume"), geometry->getComponentName(componentID));
+    addRow(table, Texts::tr("number"), QString::number(componentID));
+    addRow(table, Texts::tr("material"), fillingTitle(geometry->getMaterialID(componentID)));
+    addRow(table, Texts::tr("physical group"), QString::number(geometry->getVolumeTag(componentID)));
+    addRow(table, Texts::tr("faces"), QString::number(geometry->getFaces(componentID).size()));
     addBox(table, geometry->getBoundingBox({componentID}));
 }
 
 void describeFace(PropertyTableData& table, int componentID, int faceID)
 {
     GeometryManager* geometry = GeometryManager::instance();
-    addRow(table, PropertyTable::tr("face"), geometry->getFaceName(componentID, faceID));
-    addRow(table, PropertyTable::tr("number"), QString::number(faceID));
-    addRow(table, PropertyTable::tr("volume"), geometry->getComponentName(componentID));
-    addRow(table, PropertyTable::tr("triangles"), QString::number(geometry->getFaceTriangleCount(componentID, faceID)));
+    addRow(table, Texts::tr("face"), geometry->getFaceName(componentID, faceID));
+    addRow(table, Texts::tr("number"), QString::number(faceID));
+    addRow(table, Texts::tr("volume"), geometry->getComponentName(componentID));
+    addRow(table, Texts::tr("triangles"), QString::number(geometry->getFaceTriangleCount(componentID, faceID)));
 }
 
 void describeNode(PropertyTableData& table, int kernelID, int nodeID)
 {
     MeshManager* meshes = MeshManager::instance();
     const QVector<double> position = meshes->getNodePosition(kernelID, nodeID);
-    addRow(table, PropertyTable::tr("node"), QString::number(nodeID));
+    addRow(table, Texts::tr("node"), QString::number(nodeID));
     if (position.size() == 3) {
-        addRow(table, PropertyTable::tr("position (x, y, z)"), point(position[0], position[1], position[2]));
-        addRow(table, PropertyTable::tr("elements"), QString::number(meshes->getNodeElements(kernelID, nodeID).size()));
+        addRow(table, Texts::tr("position (x, y, z)"), point(position[0], position[1], position[2]));
+        addRow(table, Texts::tr("elements"), QString::number(meshes->getNodeElements(kernelID, nodeID).size()));
     }
 }
 
@@ -90,10 +96,10 @@ void describeElement(PropertyTableData& table, int kernelID, int elementID)
         nodes.append(QString::number(node));
     }
     const std::array<double, 3> centre = mesh->report.centroid(place);
-    addRow(table, PropertyTable::tr("element"), QString::number(elementID));
-    addRow(table, PropertyTable::tr("nodes"), nodes.join(QStringLiteral(", ")));
-    addRow(table, PropertyTable::tr("centre (x, y, z)"), point(centre[0], centre[1], centre[2]));
-    addRow(table, PropertyTable::tr("physical group"), QString::number(mesh->report.physicalTag(place)));
+    addRow(table, Texts::tr("element"), QString::number(elementID));
+    addRow(table, Texts::tr("nodes"), nodes.join(QStringLiteral(", ")));
+    addRow(table, Texts::tr("centre (x, y, z)"), point(centre[0], centre[1], centre[2]));
+    addRow(table, Texts::tr("physical group"), QString::number(mesh->report.physicalTag(place)));
     for (int i = 0; i < MeshQualityReport::metricCount; ++i) {
         const auto metric = static_cast<MeshQualityReport::Metric>(i);
         addRow(table, MeshQualityReport::metricName(metric),
@@ -104,10 +110,10 @@ void describeElement(PropertyTableData& table, int kernelID, int elementID)
 void describeGroup(PropertyTableData& table, int kernelID, int groupID)
 {
     MeshManager* meshes = MeshManager::instance();
-    addRow(table, PropertyTable::tr("group"), meshes->getGroupName(kernelID, groupID));
-    addRow(table, PropertyTable::tr("number"), QString::number(groupID));
-    addRow(table, PropertyTable::tr("mesh"), meshes->getKernelName(kernelID));
-    addRow(table, PropertyTable::tr("elements"), QString::number(meshes->getGroupSize(kernelID, groupID)));
+    addRow(table, Texts::tr("group"), meshes->getGroupName(kernelID, groupID));
+    addRow(table, Texts::tr("number"), QString::number(groupID));
+    addRow(table, Texts::tr("mesh"), meshes->getKernelName(kernelID));
+    addRow(table, Texts::tr("elements"), QString::number(meshes->getGroupSize(kernelID, groupID)));
 }
 
 void describeSystem(PropertyTableData& table, int id)
@@ -142,13 +148,13 @@ void describeItem(PropertyTableData& table, const DataModel::SelectedDataBase& i
 void describeProject(PropertyTableData& table)
 {
     MeshManager* meshes = MeshManager::instance();
-    addRow(table, PropertyTable::tr("project"), Project::instance()->name());
-    addRow(table, PropertyTable::tr("file"), QDir::toNativeSeparators(Project::instance()->path()));
-    addRow(table, PropertyTable::tr("geometry"), Project::instance()->geometryName());
+    addRow(table, Texts::tr("project"), Project::instance()->name());
+    addRow(table, Texts::tr("file"), QDir::toNativeSeparators(Project::instance()->path()));
+    addRow(table, Texts::tr("geometry"), Project::instance()->geometryName());
     for (int kernelID : meshes->findKernels(QString())) {
-        addRow(table, PropertyTable::tr("mesh"), meshes->getKernelName(kernelID));
-        addRow(table, PropertyTable::tr("nodes"), QString::number(meshes->getNodeCount(kernelID)));
-        addRow(table, PropertyTable::tr("elements"), QString::number(meshes->getElementCount(kernelID)));
+        addRow(table, Texts::tr("mesh"), meshes->getKernelName(kernelID));
+        addRow(table, Texts::tr("nodes"), QString::number(meshes->getNodeCount(kernelID)));
+        addRow(table, Texts::tr("elements"), QString::number(meshes->getElementCount(kernelID)));
         addBox(table, meshes->getBoundingBox({kernelID}));
     }
 }
@@ -164,7 +170,7 @@ PropertyTableData describeSelection()
     } else if (items.size() == 1) {
         describeItem(table, *items.first());
     } else {
-        addRow(table, PropertyTable::tr("selected items"), QString::number(items.size()));
+        addRow(table, Texts::tr("selected items"), QString::number(items.size()));
     }
     return table;
 }
