@@ -130,6 +130,19 @@ void CoordinateAxes::show(int id, bool isShown)
     updateVisibility();
 }
 
+QList<int> CoordinateAxes::hidden() const
+{
+    QList<int> ids = m_hidden.values();
+    std::sort(ids.begin(), ids.end());
+    return ids;
+}
+
+void CoordinateAxes::hide(const QList<int>& ids)
+{
+    m_hidden = QSet<int>(ids.begin(), ids.end());
+    updateVisibility();
+}
+
 // The systems keep their actors until the call that takes them out has ended, so that views can take those away.
 void CoordinateAxes::retire(const QList<int>& ids)
 {

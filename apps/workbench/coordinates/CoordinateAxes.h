@@ -34,6 +34,10 @@ public:
     bool areShown(int id) const;
     void show(bool isShown);
     void show(int id, bool isShown);
+    /// The systems whose axes are hidden, in ascending order.
+    QList<int> hidden() const;
+    /// Hides the axes of these systems, and of no other.
+    void hide(const QList<int>& ids);
 
 private:
     struct Axes;

@@ -19,6 +19,7 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 
 namespace Workbench {
@@ -134,6 +135,11 @@ CoordinateSystems::CoordinateSystems() : m_axes(new CoordinateAxes(this))
     connect(&coordinateRegistry(), &RelativeCoordinateSystemDate::signal_dataDeleted, this, &deselect);
     connect(&coordinateRegistry(), &RelativeCoordinateSystemDate::signal_dataDeleted, this,
             [this] { m_highestID = std::max(m_highestID, highestID()); });
+    // After the axes, which hear of it first.
+    connect(&coordinateRegistry(), &RelativeCoordinateSystemDate::signal_dataDeleted, this,
+            &CoordinateSystems::noteDisplay);
+    connect(&coordinateRegistry(), &RelativeCoordinateSystemDate::signal_dataChanged, this,
+            &CoordinateSystems::noteDisplay);
     connect(BaseModule::IBaseSignal::getInstance(), &BaseModule::IBaseSignal::signal_checkHighLight, this,
             &checkHighLight);
     tellChange();
@@ -296,6 +302,30 @@ void CoordinateSystems::showAxes(int id, bool isShown)
     tellChange();
 }
 
+CoordinateDisplay CoordinateSystems::display() const
+{
+    return {coordinateRegistry().getCurrentCoordinateSystemID(), m_axes->areShown(), m_axes->hidden()};
+}
+
+void CoordinateSystems::setDisplay(const CoordinateDisplay& display)
+{
+    const auto isThere = [](int id) { return coordinateRegistry().getCoordinateSystemByID(id) != nullptr; };
+    QList<int> hidden;
+    std::copy_if(display.hiddenIDs.begin(), display.hiddenIDs.end(), std::back_inserter(hidden), isThere);
+    m_axes->hide(hidden);
+    m_axes->show(display.areAxesShown);
+    coordinateRegistry().setCurrentCoordinateSystemID(isThere(display.currentID) ? display.currentID : 0);
+}
+
+void CoordinateSystems::noteDisplay()
+{
+    const CoordinateDisplay now = display();
+    if (!(now == m_display)) {
+        m_display = now;
+        Q_EMIT signal_displayChanged();
+    }
+}
+
 void CoordinateSystems::loadProject()
 {
     coordinateRegistry().resetData();
@@ -320,6 +350,8 @@ bool CoordinateSystems::saveProject()
 
 void CoordinateSystems::clearProject()
 {
+    m_axes->hide({});
+    m_axes->show(true);
     coordinateRegistry().resetData();
     m_highestID = 0;
     m_unread.clear();

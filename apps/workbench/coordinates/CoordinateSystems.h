@@ -4,6 +4,7 @@
 #pragma once
 
 #include <workbench/coordinates/CoordinateDefinition.h>
+#include <workbench/coordinates/CoordinateDisplay.h>
 #include <workbench/coordinates/CoordinateTree.h>
 
 #include <QByteArray>
@@ -16,7 +17,7 @@ class CoordinateAxes;
 
 /// The coordinate systems as the workbench edits them. Every change goes through the library's registry, and is told by
 /// the registry's own signals: `signal_dataDeleted` before systems go, `signal_dataChanged` after every change made
-/// here. At that moment every system has its axes actor, matrix and quaternion.
+/// here. At that moment every system has its axes actor, matrix and quaternion. Its own signal is for the project.
 class CoordinateSystems : public QObject
 {
     Q_OBJECT
@@ -56,20 +57,32 @@ public:
     bool areAxesShown(int id) const;
     void showAxes(int id, bool isShown);
 
+    /// Which system is current and which axes are hidden, as the project keeps it.
+    CoordinateDisplay display() const;
+    /// The same again. Systems that are not there are passed over.
+    void setDisplay(const CoordinateDisplay& display);
+
     /// Replaces all systems but the global one by those of the project's working directory.
     void loadProject();
     /// Makes sure that the project's file holds the systems, also after a write that failed unnoticed. False when it
     /// cannot be written. A file that could not be read stays while there is no system but the global one.
     bool saveProject();
-    /// Removes all systems but the global one. The file stays as it is.
+    /// Removes all systems but the global one, which is then current and shown. The file stays as it is.
     void clearProject();
+
+Q_SIGNALS:
+    /// What `display` gives changed, whoever changed it.
+    void signal_displayChanged();
 
 private:
     CoordinateSystems();
 
     int nextID() const;
+    void noteDisplay();
 
     CoordinateAxes* m_axes;
+    /// What was told last.
+    CoordinateDisplay m_display;
     /// Of those that were deleted since the project was opened, too.
     int m_highestID = 0;
     /// The content of a file that gave no system.

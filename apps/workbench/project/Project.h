@@ -69,8 +69,8 @@ public:
     /// The copy; empty without geometry.
     QString geometryPath() const;
     /// The name of the file that was copied, and where it came from.
-    QString geometryName() const { return m_geometry.geometryName; }
-    QString geometryOrigin() const { return m_geometry.geometryOrigin; }
+    QString geometryName() const { return m_geometry.name; }
+    QString geometryOrigin() const { return m_geometry.origin; }
 
     static QString fileSuffix() { return QStringLiteral("wbproj"); }
 
@@ -100,7 +100,7 @@ private:
     void watchManagers();
     void adopt(std::unique_ptr<WorkingDirectory> directory);
     void unload();
-    void load();
+    void load(const CoordinateDisplay& coordinates);
 
     void saveWanted();
     bool prepareFiles();
@@ -118,7 +118,7 @@ private:
 
     std::unique_ptr<WorkingDirectory> m_directory;
     QString m_path;
-    ProjectFiles::Description m_geometry;
+    ProjectFiles::GeometrySource m_geometry;
     bool m_isModified = false;
     bool m_isLoading = false;
     QDateTime m_materialsSaved;

@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -40,6 +41,18 @@ QString keyOrigin()
 {
     return QStringLiteral("geometryOrigin");
 }
+QString keyCurrentSystem()
+{
+    return QStringLiteral("currentCoordinateSystem");
+}
+QString keyAxesShown()
+{
+    return QStringLiteral("axesShown");
+}
+QString keyHiddenAxes()
+{
+    return QStringLiteral("hiddenAxes");
+}
 QString formatName()
 {
     return QStringLiteral("workbench project");
@@ -54,6 +67,33 @@ QJsonObject readObject(const QString& path)
 {
     QByteArray content;
     return GlobalHelper::readFile(path, content) ? QJsonDocument::fromJson(content).object() : QJsonObject();
+}
+
+QJsonArray toJson(const QList<int>& ids)
+{
+    QJsonArray array;
+    for (const int id : ids) {
+        array.append(id);
+    }
+    return array;
+}
+
+// Whole numbers only.
+QList<int> idsFrom(const QJsonArray& array)
+{
+    QList<int> ids;
+    for (const QJsonValue& value : array) {
+        if (value.toInt(0) == value.toInt(1)) {
+            ids.append(value.toInt());
+        }
+    }
+    return ids;
+}
+
+CoordinateDisplay coordinatesFrom(const QJsonObject& object)
+{
+    return {object.value(keyCurrentSystem()).toInt(0), object.value(keyAxesShown()).toBool(true),
+            idsFrom(object.value(keyHiddenAxes()).toArray())};
 }
 
 } // namespace
@@ -92,8 +132,11 @@ bool ProjectFiles::writeDescription(const QString& directory, const Description&
 {
     const QJsonObject object{{keyFormat(), formatName()},
                              {keyVersion(), formatVersion},
-                             {keyGeometry(), content.geometryName},
-                             {keyOrigin(), content.geometryOrigin}};
+                             {keyGeometry(), content.geometry.name},
+                             {keyOrigin(), content.geometry.origin},
+                             {keyCurrentSystem(), content.coordinates.currentID},
+                             {keyAxesShown(), content.coordinates.areAxesShown},
+                             {keyHiddenAxes(), toJson(content.coordinates.hiddenIDs)}};
     return GlobalHelper::writeFile(description(directory), QJsonDocument(object).toJson(),
                                    QIODevice::WriteOnly | QIODevice::Truncate);
 }
@@ -110,8 +153,9 @@ QString ProjectFiles::check(const QString& directory, Description& content)
     if (readObject(geometry(directory)).isEmpty() || readObject(mesh(directory)).isEmpty()) {
         return say(QT_TRANSLATE_NOOP("Workbench::ProjectFiles", "its description of geometry or mesh is damaged"));
     }
-    content.geometryName = QFileInfo(object.value(keyGeometry()).toString()).fileName();
-    content.geometryOrigin = object.value(keyOrigin()).toString();
+    content.geometry.name = QFileInfo(object.value(keyGeometry()).toString()).fileName();
+    content.geometry.origin = object.value(keyOrigin()).toString();
+    content.coordinates = coordinatesFrom(object);
     return {};
 }
 

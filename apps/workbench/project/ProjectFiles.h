@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <workbench/coordinates/CoordinateDisplay.h>
+
 #include <QString>
 #include <QStringList>
 
@@ -11,13 +13,21 @@ namespace Workbench {
 /// The working files of a project in its working directory.
 namespace ProjectFiles {
 
+/// The geometry file that the project holds a copy of.
+struct GeometrySource
+{
+    /// The file's name, as the user knows it; empty without one.
+    QString name;
+    /// The path from which the file was taken, which tells it from others of its name.
+    QString origin;
+};
+
 /// What the description of a project says.
 struct Description
 {
-    /// Name of the geometry file, as the user knows it; empty without one.
-    QString geometryName;
-    /// The path from which the file was taken, which tells it from others of its name.
-    QString geometryOrigin;
+    GeometrySource geometry;
+    /// The defaults where the project says nothing, or something of another type.
+    CoordinateDisplay coordinates;
 };
 
 QString materials(const QString& directory);

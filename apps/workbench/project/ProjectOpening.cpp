@@ -68,7 +68,7 @@ Project::Project()
     }
     // The first access makes the global system, which must be there before any file is read.
     m_isLoading = true;
-    CoordinateSystems::instance();
+    connect(CoordinateSystems::instance(), &CoordinateSystems::signal_displayChanged, this, &Project::noteChange);
     m_isLoading = false;
 }
 
@@ -123,9 +123,10 @@ void Project::finishOpening(const QString& path, Arrival& arrival, bool isCancel
     if (isDone) {
         adopt(std::move(arrival.directory));
         m_path = QFileInfo(path).absoluteFilePath();
-        const QString copy = ProjectFiles::geometrySource(m_directory->path(), arrival.description.geometryName);
-        m_geometry = QFile::exists(copy) ? arrival.description : ProjectFiles::Description();
-        load();
+        const ProjectFiles::GeometrySource& geometry = arrival.description.geometry;
+        const QString copy = ProjectFiles::geometrySource(m_directory->path(), geometry.name);
+        m_geometry = QFile::exists(copy) ? geometry : ProjectFiles::GeometrySource();
+        load(arrival.description.coordinates);
         RecentProjects::instance()->add(m_path);
         Q_EMIT signal_opened();
     } else if (!isCancelled) {
@@ -161,7 +162,7 @@ void Project::unload()
     MaterialLibraries::instance()->clearProject();
 }
 
-void Project::load()
+void Project::load(const CoordinateDisplay& coordinates)
 {
     m_isLoading = true;
     const QString directory = m_directory->path();
@@ -171,6 +172,7 @@ void Project::load()
     }
     MaterialLibraries::instance()->loadProject();
     CoordinateSystems::instance()->loadProject();
+    CoordinateSystems::instance()->setDisplay(coordinates);
     GeometryManager::instance()->load(ProjectFiles::geometry(directory));
     MeshManager::instance()->restore(ProjectFiles::mesh(directory));
     m_isLoading = false;

@@ -66,12 +66,13 @@ bool Project::prepareFiles()
         return false;
     }
     const QString directory = m_directory->path();
+    const ProjectFiles::Description description{m_geometry, CoordinateSystems::instance()->display()};
     // Telling of the files is no change of the project.
     const QScopedValueRollback<bool> quiet(m_isLoading, true);
     return MaterialLibraries::instance()->saveProject() && CoordinateSystems::instance()->saveProject() &&
            GeometryManager::instance()->save(ProjectFiles::geometry(directory)) &&
            MeshManager::instance()->save(ProjectFiles::mesh(directory)) &&
-           ProjectFiles::writeDescription(directory, m_geometry);
+           ProjectFiles::writeDescription(directory, description);
 }
 
 void Project::beginSaving(const QString& path)

@@ -23,7 +23,6 @@ public:
     {
         BaseModule::GlobalHelper::setProjectTempIODir(m_directory.path());
         systems().clearProject();
-        systems().showAxes(true);
         QCoreApplication::processEvents();
     }
     ~CoordinateViewFixture()

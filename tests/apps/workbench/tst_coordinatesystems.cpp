@@ -9,6 +9,7 @@
 #include <datamanager/selection/SelectedDataManager.h>
 
 #include <QPointer>
+#include <QSignalSpy>
 #include <QtMath>
 
 #include <vtkMatrix4x4.h>
@@ -389,6 +390,7 @@ void tst_CoordinateSystems::showsAndHidesAxes()
     Fixture::create(0, text("Table"));
     const auto isSeen = [](int id) { return Fixture::system(id).getActor()->GetVisibility() != 0; };
     QVERIFY(isSeen(0) && isSeen(1));
+    const QSignalSpy told(&Fixture::systems(), &CoordinateSystems::signal_displayChanged);
     RegistryLog log;
     Fixture::systems().showAxes(1, false);
     QCOMPARE(log.take(), QStringList({text("changed [0,1] | [0,1] at 0")}));
@@ -399,10 +401,13 @@ void tst_CoordinateSystems::showsAndHidesAxes()
     Fixture::systems().showAxes(true);
     QVERIFY(isSeen(0) && !isSeen(1));
     QVERIFY(Fixture::systems().areAxesShown(0) && !Fixture::systems().areAxesShown(1));
+    QCOMPARE(told.size(), 3);
     // What is hidden stays hidden when it changes; a later system of its identifier is seen.
     Fixture::systems().change(1, {text("Desk"), BaseModule::Cartesian, {1, 0, 0}, {0, 0, 0}});
     QVERIFY(!isSeen(1));
+    QCOMPARE(told.size(), 3);
     Fixture::systems().remove({1});
+    QCOMPARE(told.size(), 4);
     auto* const later = new Fixture::System;
     later->setID(1);
     Fixture::Registry::getInstance()->appendCoordinateSystem(later);
@@ -461,8 +466,12 @@ void tst_CoordinateSystems::clearsAProject()
     Fixture::create(0, text("Table"));
     const QByteArray saved = m_fixture->file();
     Fixture::systems().setCurrent(1);
+    Fixture::systems().showAxes(0, false);
+    Fixture::systems().showAxes(false);
     RegistryLog log;
     Fixture::systems().clearProject();
+    QVERIFY(Fixture::systems().areAxesShown() && Fixture::systems().areAxesShown(0));
+    QVERIFY(Fixture::system(0).getActor()->GetVisibility());
     QCOMPARE(log.take(), QStringList({text("deleted [1] | [0,1] at 1"), text("changed [0] | [0] at 0")}));
     QCOMPARE(m_fixture->file(), saved);
 }

@@ -11,15 +11,20 @@
 #include <workbench/material/MaterialDock.h>
 #include <workbench/material/MaterialLibraries.h>
 #include <workbench/project/Project.h>
+#include <workbench/project/ProjectArchive.h>
 #include <workbench/selection/SelectionUndo.h>
 
 #include <basemodule/GlobalHelper.h>
+#include <basewidget/FixedPixelSizeAxesActor.h>
 #include <configoption/TextCipher.h>
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
 #include <datamanager/coordinates/RelativeCoordinateSystemDate.h>
 #include <datamanager/selection/SelectedDataManager.h>
 #include <datamodel/MaterialData.h>
 
+#include <QCheckBox>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTreeView>
@@ -55,6 +60,35 @@ void makeContent()
     CoordinateSystems::instance()->create(1, {text("Tool"), BaseModule::Cartesian, {1, 2, 3}, {0, 0, 1.0 / 3}});
 }
 
+/// "1 all but [2,3]"
+QString displayText()
+{
+    const Workbench::CoordinateDisplay display = CoordinateSystems::instance()->display();
+    QStringList hidden;
+    for (const int id : display.hiddenIDs) {
+        hidden.append(QString::number(id));
+    }
+    return text("%1 %2 but [%3]")
+        .arg(QString::number(display.currentID), display.areAxesShown ? text("all") : text("none"),
+             hidden.join(QLatin1Char(',')));
+}
+
+/// Rewrites a project with other members in its description; undefined ones are left out.
+void describeAnew(const QString& file, const QJsonObject& members)
+{
+    const QTemporaryDir content;
+    QCOMPARE(Workbench::ProjectArchive::unpack(file, content.path()), QString());
+    const QString path = content.filePath(text("project.json"));
+    QJsonObject description = QJsonDocument::fromJson(contentOf(path)).object();
+    for (const char* key : {"currentCoordinateSystem", "axesShown", "hiddenAxes"}) {
+        QVERIFY(description.contains(QLatin1String(key)));
+        description.insert(QLatin1String(key), members.value(QLatin1String(key)));
+    }
+    QVERIFY(!writeFile(path, QJsonDocument(description).toJson()).isEmpty());
+    const QStringList names = QDir(content.path()).entryList(QDir::Files);
+    QCOMPARE(Workbench::ProjectArchive::pack(content.path(), names, file), QString());
+}
+
 void expectLines(int count, const char* pattern)
 {
     for (int i = 0; i < count; ++i) {
@@ -71,7 +105,11 @@ class tst_ProjectData : public QObject
 
 private Q_SLOTS:
     void marksChanges();
+    void marksChangesOfTheDisplay_data();
+    void marksChangesOfTheDisplay();
     void comesBackExactly();
+    void passesOverDamagedDisplay_data();
+    void passesOverDamagedDisplay();
     void savesWhatCouldNotBeWritten();
     void failsWithoutWorkingFiles_data();
     void failsWithoutWorkingFiles();
@@ -92,6 +130,42 @@ void tst_ProjectData::marksChanges()
     QVERIFY(Project::instance()->isModified());
 }
 
+void tst_ProjectData::marksChangesOfTheDisplay_data()
+{
+    QTest::addColumn<int>("current");
+    QTest::addColumn<bool>("areShown");
+    QTest::addColumn<bool>("isShown");
+    QTest::newRow("current system") << 1 << true << true;
+    QTest::newRow("axes of all") << 0 << false << true;
+    QTest::newRow("axes of one") << 0 << true << false;
+}
+
+void tst_ProjectData::marksChangesOfTheDisplay()
+{
+    QFETCH(int, current);
+    QFETCH(bool, areShown);
+    QFETCH(bool, isShown);
+    CoordinateSystems* const systems = CoordinateSystems::instance();
+    QVERIFY(Project::instance()->create());
+    systems->create(0, {text("Table"), BaseModule::Cartesian, {}, {}});
+    const QTemporaryDir directory;
+    QVERIFY(Project::instance()->saveAs(directory.filePath(text("display.wbproj"))));
+    const auto show = [systems](int id, bool areAll, bool isOne) {
+        systems->setCurrent(id);
+        systems->showAxes(areAll);
+        systems->showAxes(1, isOne);
+    };
+    show(0, true, true);
+    QVERIFY(!Project::instance()->isModified());
+    show(current, areShown, isShown);
+    QVERIFY(Project::instance()->isModified());
+    QVERIFY(Project::instance()->save());
+    show(current, areShown, isShown);
+    QVERIFY(!Project::instance()->isModified());
+    show(0, true, true);
+    QVERIFY(Project::instance()->isModified());
+}
+
 void tst_ProjectData::comesBackExactly()
 {
     QVERIFY(Project::instance()->create());
@@ -99,7 +173,12 @@ void tst_ProjectData::comesBackExactly()
     Workbench::CoordinateDock systems;
     const QAbstractItemModel& list = *materials.findChild<QTreeView*>(text("materialsProject"))->model();
     const QTreeWidget& tree = *systems.findChild<QTreeWidget*>(text("coordinateTree"));
+    const QCheckBox& axes = *systems.findChild<QCheckBox*>(text("showAxes"));
     makeContent();
+    CoordinateSystems::instance()->setCurrent(1);
+    CoordinateSystems::instance()->showAxes(2, false);
+    CoordinateSystems::instance()->showAxes(0, false);
+    CoordinateSystems::instance()->showAxes(false);
     const QString savedMaterials = materialJson();
     const QByteArray savedSystems = workingFile("RelativeCoordinateSystemDate.json");
     QVERIFY(savedMaterials.contains(text("Odd")) && savedSystems.contains("Tool"));
@@ -110,6 +189,9 @@ void tst_ProjectData::comesBackExactly()
     QVERIFY(Project::instance()->create());
     QCOMPARE(list.rowCount(), 0);
     QCOMPARE(tree.topLevelItem(0)->childCount(), 0);
+    QCOMPARE(displayText(), text("0 all but []"));
+    QVERIFY(tree.topLevelItem(0)->font(0).bold() && axes.isChecked());
+    QCOMPARE(tree.topLevelItem(0)->checkState(0), Qt::Checked);
 
     QVERIFY(Project::instance()->open(directory.filePath(text("example.wbproj"))));
     QVERIFY(!Project::instance()->isModified());
@@ -120,10 +202,56 @@ void tst_ProjectData::comesBackExactly()
     QCOMPARE(tree.topLevelItem(0)->child(0)->child(0)->text(0), text("Tool"));
     auto* const tool = DataManager::RelativeCoordinateSystemDate::getInstance()->getCoordinateSystemByID(2);
     QVERIFY(tool->getActor() != nullptr);
+    QCOMPARE(displayText(), text("1 none but [0,2]"));
+    const QTreeWidgetItem* const table = tree.topLevelItem(0)->child(0);
+    QVERIFY(table->font(0).bold() && !axes.isChecked());
+    QCOMPARE(table->checkState(0), Qt::Checked);
+    QCOMPARE(table->child(0)->checkState(0), Qt::Unchecked);
+    CoordinateSystems::instance()->showAxes(true);
+    QVERIFY(!tool->getActor()->GetVisibility());
     // What was read is what the next save writes.
     MaterialLibraries::instance()->update(BaseModule::ProjectLib, 4,
                                           *MaterialLibraries::material(BaseModule::ProjectLib, 4));
     QCOMPARE(materialJson(), savedMaterials);
+}
+
+void tst_ProjectData::passesOverDamagedDisplay_data()
+{
+    QTest::addColumn<QByteArray>("members");
+    QTest::addColumn<QString>("display");
+    const auto row = [](const char* name, const char* members, const char* display) {
+        QTest::newRow(name) << QByteArray(members) << text(display);
+    };
+    row("of an earlier version", "{}", "0 all but []");
+    row("what was saved", R"({"currentCoordinateSystem": 2, "axesShown": false, "hiddenAxes": [0, 1]})",
+        "2 none but [0,1]");
+    row("systems that are not there", R"({"currentCoordinateSystem": 9, "hiddenAxes": [7, 1, -1, 2000000000]})",
+        "0 all but [1]");
+    row("a fraction", R"({"currentCoordinateSystem": 1.5, "hiddenAxes": [0.5, 2]})", "0 all but [2]");
+    row("beyond integers", R"({"currentCoordinateSystem": 4294967297, "hiddenAxes": [4294967298, -1e300]})",
+        "0 all but []");
+    row("of other types", R"({"currentCoordinateSystem": "1", "axesShown": 0, "hiddenAxes": {"1": 2}})",
+        "0 all but []");
+    row("an empty text", R"({"currentCoordinateSystem": [1], "axesShown": "", "hiddenAxes": ""})", "0 all but []");
+    row("entries of other types", R"({"hiddenAxes": ["1", null, true, [1], {"a": 1}, 2, 2]})", "0 all but [2]");
+}
+
+void tst_ProjectData::passesOverDamagedDisplay()
+{
+    QFETCH(QByteArray, members);
+    QVERIFY(Project::instance()->create());
+    makeContent();
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(text("display.wbproj"));
+    QVERIFY(Project::instance()->saveAs(file));
+    describeAnew(file, QJsonDocument::fromJson(members).object());
+    // What is open says the opposite.
+    CoordinateSystems::instance()->setDisplay({1, false, {0, 1, 2}});
+    Messages messages;
+    QVERIFY(Project::instance()->open(file));
+    QCOMPARE(messages.list, QStringList());
+    QTEST(displayText(), "display");
+    QVERIFY(!Project::instance()->isModified());
 }
 
 // The disk was full when the systems and materials were changed, and is not when the project is saved.
