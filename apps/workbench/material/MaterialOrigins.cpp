@@ -3,6 +3,8 @@
 
 #include <workbench/material/MaterialOrigins.h>
 
+#include <datamanager/material/private/KeptCopy.h>
+
 #include <basemodule/GlobalHelper.h>
 
 #include <QFile>
@@ -51,6 +53,36 @@ Origin fromJson(const QJsonObject& object)
             object.value(editedKey).toBool()};
 }
 
+QJsonObject toJson(const QMap<int, Origin>& origins)
+{
+    QJsonArray materials;
+    for (auto origin = origins.begin(); origin != origins.end(); ++origin) {
+        materials.append(toJson(origin.key(), *origin));
+    }
+    return {{materialsKey, materials}};
+}
+
+// Those whose source is known.
+QMap<int, Origin> originsFrom(const QJsonObject& object)
+{
+    QMap<int, Origin> origins;
+    for (const QJsonValue& entry : object.value(materialsKey).toArray()) {
+        const int id = entry.toObject().value(idKey).toInt();
+        const Origin origin = fromJson(entry.toObject());
+        if (id > 0 && origin.source != Origin::Unknown) {
+            origins.insert(id, origin);
+        }
+    }
+    return origins;
+}
+
+bool keepFile()
+{
+    QByteArray content;
+    return GlobalHelper::readFile(path(), content) &&
+           (content.isEmpty() || DataManager::KeptCopy::keep(path(), content));
+}
+
 } // namespace
 
 void MaterialOrigins::set(int id, const Origin& origin)
@@ -73,31 +105,28 @@ void MaterialOrigins::forget(int id)
 
 void MaterialOrigins::read()
 {
-    m_origins.clear();
     QByteArray content;
-    if (QFile::exists(path()) && GlobalHelper::readFile(path(), content)) {
-        for (const QJsonValue& entry : QJsonDocument::fromJson(content).object().value(materialsKey).toArray()) {
-            m_origins.insert(entry.toObject().value(idKey).toInt(), fromJson(entry.toObject()));
-        }
-    }
+    const bool isThere = QFile::exists(path());
+    const bool isRead = isThere && GlobalHelper::readFile(path(), content);
+    const QJsonObject object = QJsonDocument::fromJson(content).object();
+    m_origins = originsFrom(object);
+    m_isFileHeld = !isThere || (isRead && object == toJson(m_origins));
 }
 
-bool MaterialOrigins::write() const
+bool MaterialOrigins::write()
 {
-    if (m_origins.isEmpty() && !QFile::exists(path())) {
+    if (m_origins.isEmpty() && (!m_isFileHeld || !QFile::exists(path()))) {
         return true;
     }
-    QJsonArray materials;
-    for (auto origin = m_origins.begin(); origin != m_origins.end(); ++origin) {
-        materials.append(toJson(origin.key(), *origin));
-    }
-    return GlobalHelper::writeFile(path(), QJsonDocument(QJsonObject{{materialsKey, materials}}).toJson(),
-                                   QIODevice::WriteOnly | QIODevice::Truncate);
+    m_isFileHeld = m_isFileHeld || keepFile();
+    return m_isFileHeld && GlobalHelper::writeFile(path(), QJsonDocument(toJson(m_origins)).toJson(),
+                                                   QIODevice::WriteOnly | QIODevice::Truncate);
 }
 
 void MaterialOrigins::clear()
 {
     m_origins.clear();
+    m_isFileHeld = true;
     QFile::remove(path());
 }
 

@@ -34,15 +34,18 @@ public:
     void markEdited(int id);
     void forget(int id);
 
-    /// From and to the working directory. What cannot be read there counts as unknown. False when the file
-    /// that is wanted cannot be written.
+    /// From and to the working directory. What cannot be read there counts as unknown: such a file stays as long as
+    /// nothing takes its place, and is then copied to "MaterialOrigins.json.unreadable". False when the file that is
+    /// wanted, or the copy, cannot be written.
     void read();
-    bool write() const;
+    bool write();
     /// Forgets all and removes the file.
     void clear();
 
 private:
     QMap<int, Origin> m_origins;
+    /// Whether all that the file says is here, or was copied.
+    bool m_isFileHeld = true;
 };
 
 } // namespace Workbench

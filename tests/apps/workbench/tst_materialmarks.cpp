@@ -39,6 +39,9 @@ private Q_SLOTS:
     void forgetsOriginsOfDeletedOnes();
     void takesDamagedOriginsAsUnknown_data();
     void takesDamagedOriginsAsUnknown();
+    void keepsDamagedOrigins_data();
+    void keepsDamagedOrigins();
+    void keepsPartlyDamagedOrigins();
     void showsAMissingMaterial();
 
 private:
@@ -208,6 +211,9 @@ void tst_MaterialMarks::keepsOriginsInTheProject()
     writeContent(m_fixture->libraries().projectPath(), materials);
     MaterialLibraries::instance()->loadProject();
     QCOMPARE(cells("materialsProject", MaterialTable::OriginColumn), text("software library, Copper (1)"));
+    MaterialLibraries::instance()->create(BaseModule::ProjectLib, {0, text("锡"), text("Tin"), {}, {}, {}, {}, {}});
+    QVERIFY(contentOf(originsPath()).size() > file.size());
+    QVERIFY(!QFile::exists(originsPath() + text(".unreadable")));
 }
 
 void tst_MaterialMarks::forgetsOriginsOfDeletedOnes()
@@ -242,6 +248,48 @@ void tst_MaterialMarks::takesDamagedOriginsAsUnknown()
     MaterialLibraries::instance()->loadProject();
     QCOMPARE(m_fixture->rows("materialsProject"), text("1 Copper"));
     QCOMPARE(cells("materialsProject", MaterialTable::OriginColumn), QString());
+}
+
+void tst_MaterialMarks::keepsDamagedOrigins_data()
+{
+    takesDamagedOriginsAsUnknown_data();
+}
+
+// A save leaves them; what takes their place leaves a copy.
+void tst_MaterialMarks::keepsDamagedOrigins()
+{
+    QFETCH(QByteArray, content);
+    const QString copy = originsPath() + text(".unreadable");
+    m_fixture->libraries().createProject(text("Copper"));
+    writeContent(originsPath(), content);
+    MaterialLibraries::instance()->loadProject();
+    QVERIFY(MaterialLibraries::instance()->saveProject());
+    QCOMPARE(contentOf(originsPath()), content);
+    QVERIFY(!QFile::exists(copy));
+
+    for (const char* name : {"Iron", "Tin"}) {
+        MaterialLibraries::instance()->create(BaseModule::ProjectLib, {0, text(name), text(name), {}, {}, {}, {}, {}});
+        QCOMPARE(contentOf(copy), content);
+    }
+    QVERIFY(!QFile::exists(copy + text(".1")));
+    MaterialLibraries::instance()->loadProject();
+    QCOMPARE(cells("materialsProject", MaterialTable::OriginColumn), text("; this project; this project"));
+}
+
+// What is known of them is taken, and written again.
+void tst_MaterialMarks::keepsPartlyDamagedOrigins()
+{
+    const QByteArray content = R"({"materials": [{"id": 1, "source": "created", "sourceID": 0, "sourceName": "", )"
+                               R"("edited": false}, {"id": 2, "source": "the moon"}]})";
+    m_fixture->libraries().createProject(text("Copper"));
+    m_fixture->libraries().createProject(text("Steel"));
+    writeContent(originsPath(), content);
+    MaterialLibraries::instance()->loadProject();
+    QCOMPARE(cells("materialsProject", MaterialTable::OriginColumn), text("this project; "));
+    QVERIFY(MaterialLibraries::instance()->saveProject());
+    QCOMPARE(contentOf(originsPath() + text(".unreadable")), content);
+    MaterialLibraries::instance()->loadProject();
+    QCOMPARE(cells("materialsProject", MaterialTable::OriginColumn), text("this project; "));
 }
 
 void tst_MaterialMarks::showsAMissingMaterial()
