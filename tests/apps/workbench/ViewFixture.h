@@ -43,6 +43,8 @@ public:
 
     bool isReady() const { return QTest::qWaitForWindowExposed(m_window.get()); }
 
+    QWidget& window() const { return *m_window; }
+
     vtkRenderer& renderer() const { return *canvas->renderWindow()->GetRenderers()->GetFirstRenderer(); }
 
     /// What is seen once all signals have been followed.

@@ -2,35 +2,25 @@
 // SPDX-License-Identifier: BSD-3-Clause
 
 #include "Samples.h"
+#include "ViewFixture.h"
 #include "WindowTest.h"
 
 #include <workbench/geometry/GeometryManager.h>
-#include <workbench/mesh/MeshDisplay.h>
-#include <workbench/project/Project.h>
 #include <workbench/selection/SelectionUndo.h>
-#include <workbench/view/HighlightState.h>
-#include <workbench/view/View3D.h>
-#include <workbench/view/ViewCommands.h>
 
-#include <basemodule/IBaseSignal.h>
 #include <basemodule/SelectModel.h>
 #include <datamanager/frame/InteractionManager.h>
 #include <datamanager/selection/SelectedDataManager.h>
 #include <datamodel/SelectedDataBase.h>
 
-#include <QImage>
 #include <QLineEdit>
-#include <QSignalBlocker>
-#include <QTemporaryDir>
 #include <QUndoStack>
-#include <QVBoxLayout>
-#include <QVTKOpenGLNativeWidget.h>
 
 using DataManager::InteractionManager;
 using DataManager::SelectedDataManager;
 using namespace Workbench;
 
-// A unit cube, seen from the front: its near side fills most of the view.
+/// Mouse and keys in the view of a unit cube, seen from the front: its near side fills most of the view.
 class tst_View3D : public QObject
 {
     Q_OBJECT
@@ -38,7 +28,7 @@ class tst_View3D : public QObject
 private Q_SLOTS:
     void initTestCase();
     void init();
-    void cleanupTestCase();
+    void cleanupTestCase() { m_fixture.reset(); }
 
     void clickSelects_data();
     void clickSelects();
@@ -49,21 +39,15 @@ private Q_SLOTS:
     void mouseMakesOneStepOfUndo_data();
     void mouseMakesOneStepOfUndo();
     void hiddenIsNotPicked();
-    void hiddenGroupIsNotDrawn();
     void keysChangeTheMode();
     void tabLeavesTheView();
     void lostFocusReleasesKeys();
     void dragMovesTheCamera_data();
     void dragMovesTheCamera();
     void measuresInDrawMode();
-    void highlightFollowsTheHub();
-    void highlightIsDrawn();
-    void transparencyFollowsTheHub();
-    void coloursByMetric();
-    void screenshotFailure();
 
 private:
-    QImage picture();
+    QImage picture() const { return m_fixture->picture(); }
     QPoint centre() const { return m_canvas->rect().center(); }
     void drag(const QPoint& from, const QPoint& to, Qt::MouseButton button = Qt::LeftButton,
               Qt::KeyboardModifiers modifiers = Qt::NoModifier);
@@ -72,11 +56,8 @@ private:
     {
         return SelectedDataManager::getInstance()->getSelectedDataBySelectedModel(model).size();
     }
-    static int pixelsNear(const QImage& image, const QColor& colour);
 
-    QTemporaryDir m_directory;
-    std::unique_ptr<QWidget> m_window;
-    View3D* m_view = nullptr;
+    std::unique_ptr<ViewFixture> m_fixture;
     QLineEdit* m_field = nullptr;
     QVTKOpenGLNativeWidget* m_canvas = nullptr;
     int m_kernel = 0;
@@ -84,60 +65,25 @@ private:
 
 void tst_View3D::initTestCase()
 {
-    Project::instance();
-    m_window = std::make_unique<QWidget>();
-    m_window->resize(600, 480);
-    auto* layout = new QVBoxLayout(m_window.get());
-    m_field = new QLineEdit(m_window.get());
-    m_view = new View3D(m_window.get());
-    layout->addWidget(m_field);
-    layout->addWidget(m_view);
-    m_canvas = m_view->findChild<QVTKOpenGLNativeWidget*>();
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    m_fixture = std::make_unique<ViewFixture>(QSize(600, 480));
+    m_field = new QLineEdit(&m_fixture->window());
+    m_fixture->window().layout()->addWidget(m_field);
+    m_canvas = m_fixture->canvas;
+    QVERIFY(m_fixture->isReady());
     m_kernel = openMesh(samplePath("graded-block.msh"));
     QVERIFY(m_kernel > 0);
 }
 
 void tst_View3D::init()
 {
-    m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    m_fixture->window().activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&m_fixture->window()));
     m_canvas->setFocus();
     SelectedDataManager::getInstance()->clearAllSelectedTarget();
     SelectedDataManager::getInstance()->setSelectModelInMainWindow(BaseModule::GeometryFace);
     InteractionManager::getInstance()->setInteractionMode(BaseModule::Select);
-    MeshDisplay::instance()->colourByFace();
     ViewCommands::instance()->lookFrom(ViewCommands::Direction::Front);
     settle();
-}
-
-void tst_View3D::cleanupTestCase()
-{
-    m_window.reset();
-    Project::instance()->close();
-}
-
-QImage tst_View3D::picture()
-{
-    settle();
-    const QString path = m_directory.filePath(QStringLiteral("picture.png"));
-    ViewCommands::instance()->saveScreenshot(path);
-    return QImage(path);
-}
-
-int tst_View3D::pixelsNear(const QImage& image, const QColor& colour)
-{
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QColor pixel = image.pixelColor(x, y);
-            const int turn = qAbs(pixel.hsvHue() - colour.hsvHue());
-            const int distance = qMin(turn, 360 - turn);
-            count += pixel.hsvSaturation() > 120 && distance < 12 ? 1 : 0;
-        }
-    }
-    return count;
 }
 
 void tst_View3D::drag(const QPoint& from, const QPoint& to, Qt::MouseButton button, Qt::KeyboardModifiers modifiers)
@@ -296,35 +242,6 @@ void tst_View3D::hiddenIsNotPicked()
     QCOMPARE(SelectedDataManager::getInstance()->getDataCount(), 1);
 }
 
-// Whether it is still selected or, in the tree, selected while it is hidden.
-void tst_View3D::hiddenGroupIsNotDrawn()
-{
-    const QColor highlight(255, 140, 0);
-    MeshManager* meshes = MeshManager::instance();
-    GeometryManager* geometry = GeometryManager::instance();
-    SelectedDataManager* selection = SelectedDataManager::getInstance();
-    const int before = pixelsNear(picture(), highlight);
-    selection->setSelectModelInMainWindow(BaseModule::MeshGroup);
-    QMultiMap<int, int> groups;
-    QList<QPair<int, int>> pairs;
-    for (const int group : meshes->findGroups(m_kernel, QString())) {
-        groups.insert(m_kernel, group);
-        pairs.append({m_kernel, group});
-    }
-    selection->addSelectedTargetList(BaseModule::MeshGroup, pairs);
-    QVERIFY(pixelsNear(picture(), highlight) > before + 10000);
-    geometry->showComponents(geometry->findComponents(QString()), false);
-    QCOMPARE(pixelsNear(picture(), highlight), 0);
-    geometry->showComponents(geometry->findComponents(QString()), true);
-    QVERIFY(pixelsNear(picture(), highlight) > before + 10000);
-    meshes->showGroups(groups, false);
-    QCOMPARE(selection->getDataCount(), 0);
-    selection->addSelectedTargetList(BaseModule::MeshGroup, pairs);
-    QCOMPARE(pixelsNear(picture(), highlight), 0);
-    meshes->showGroups(groups, true);
-    QVERIFY(pixelsNear(picture(), highlight) > before + 10000);
-}
-
 // Going on with the keyboard, as from any other widget.
 void tst_View3D::tabLeavesTheView()
 {
@@ -402,111 +319,6 @@ void tst_View3D::measuresInDrawMode()
     QCOMPARE(SelectedDataManager::getInstance()->getDataCount(), 0);
     drag(QPoint(3, 3), QPoint(20, 20)); // beside the model nothing is measured
     QCOMPARE(picture(), before);
-}
-
-void tst_View3D::highlightFollowsTheHub()
-{
-    SelectedDataManager* selection = SelectedDataManager::getInstance();
-    const HighlightState state;
-    const auto isSame = [&] {
-        for (int model = 0; model <= 10; ++model) {
-            const auto pairs = selection->getSelectedDataBySelectedModel(static_cast<BaseModule::SelectModel>(model));
-            const ItemSet& items = state.items(model);
-            const auto isThere = [&items](const QPair<int, int>& pair) { return items.contains(pair); };
-            const QSet<QPair<int, int>> once(pairs.begin(), pairs.end());
-            if (static_cast<int>(items.count()) != once.size() || !std::all_of(once.begin(), once.end(), isThere)) {
-                return false;
-            }
-        }
-        return true;
-    };
-    selection->setSelectModelInMainWindow(BaseModule::MeshNode);
-    selection->addSelectedTargetList(BaseModule::MeshNode, {{m_kernel, 1}, {m_kernel, 2}, {m_kernel, 3}, {9, 4}});
-    QVERIFY(isSame() && !state.isEmpty());
-    selection->removeSelectedTargetList(BaseModule::MeshNode, {{m_kernel, 2}});
-    QVERIFY(isSame());
-    selection->removeSelectedTargetList(BaseModule::MeshNode, {{m_kernel, -1}});
-    QVERIFY(isSame());
-    selection->removeSelectedTargets(BaseModule::MeshNode, {9});
-    QVERIFY(isSame() && !state.isEmpty());
-    selection->setSelectModelInMainWindow(BaseModule::GeometryComponent);
-    QVERIFY(isSame() && state.isEmpty());
-    selection->clickViewObject(1, -1);
-    QVERIFY(isSame() && !state.isEmpty());
-    selection->clearAllSelectedTarget();
-    QVERIFY(isSame() && state.isEmpty());
-}
-
-void tst_View3D::highlightIsDrawn()
-{
-    const QColor highlight(255, 140, 0);
-    const int before = pixelsNear(picture(), highlight);
-    QTest::mouseClick(m_canvas, Qt::LeftButton, Qt::NoModifier, centre());
-    const int selected = pixelsNear(picture(), highlight);
-    QVERIFY2(selected > before + 10000, qPrintable(QStringLiteral("%1, %2").arg(before).arg(selected)));
-    SelectedDataManager::getInstance()->clearAllSelectedTarget();
-    QCOMPARE(pixelsNear(picture(), highlight), before);
-    // An element inside is seen, too.
-    MeshManager* meshes = MeshManager::instance();
-    const auto mesh = meshes->mesh(m_kernel);
-    std::vector<char> isAtSkin(static_cast<std::size_t>(mesh->report.elementCount()), 0);
-    for (const BoundaryFace& face : mesh->faces) {
-        isAtSkin[static_cast<std::size_t>(face.element)] = 1;
-    }
-    const auto inside = std::find(isAtSkin.begin(), isAtSkin.end(), '\0') - isAtSkin.begin();
-    const int element = mesh->elementNumbers.number(static_cast<int>(inside));
-    MeshDisplay::instance()->focusElement(m_kernel, element);
-    SelectedDataManager::getInstance()->setSelectModelInMainWindow(BaseModule::MeshElement);
-    const int focused = pixelsNear(picture(), QColor(214, 39, 40));
-    QVERIFY2(focused > 300, qPrintable(QString::number(focused)));
-}
-
-// The hub's signal alone: what the settings say of themselves is kept from the view.
-void tst_View3D::transparencyFollowsTheHub()
-{
-    MeshDisplay* display = MeshDisplay::instance();
-    const auto setUnheard = [display](double transparency) {
-        const QSignalBlocker silence(display);
-        display->setTransparency(transparency);
-    };
-    const QImage opaque = picture();
-    setUnheard(0.6);
-    QCOMPARE(picture(), opaque);
-    Q_EMIT BaseModule::IBaseSignal::getInstance()->signal_updateGeomrtryActorTransparency({});
-    const QImage transparent = picture();
-    QVERIFY(transparent != opaque);
-    setUnheard(0);
-    QCOMPARE(picture(), transparent);
-    Q_EMIT BaseModule::IBaseSignal::getInstance()->signal_updateGeomrtryActorTransparency({});
-    QCOMPARE(picture(), opaque);
-}
-
-void tst_View3D::coloursByMetric()
-{
-    const QImage plain = picture();
-    MeshDisplay::instance()->colourByMetric(DataManager::MeshQualityReport::Metric::Shape);
-    const QImage shape = picture();
-    QVERIFY(shape != plain);
-    MeshDisplay::instance()->colourByMetric(DataManager::MeshQualityReport::Metric::Volume);
-    QVERIFY(picture() != shape);
-    MeshDisplay::instance()->colourByFace();
-    QCOMPARE(picture(), plain);
-    MeshDisplay::instance()->setTransparency(0.6);
-    QVERIFY(picture() != plain);
-    MeshDisplay::instance()->setTransparency(-3);
-    QCOMPARE(MeshDisplay::instance()->transparency(), 0.0);
-    MeshDisplay::instance()->showEdges(false);
-    QVERIFY(picture() != plain);
-    MeshDisplay::instance()->showEdges(true);
-    QCOMPARE(picture(), plain);
-}
-
-void tst_View3D::screenshotFailure()
-{
-    Messages messages;
-    ViewCommands::instance()->saveScreenshot(m_directory.filePath(QStringLiteral("no/such/place.png")));
-    QCOMPARE(messages.list.size(), 1);
-    QVERIFY(messages.list.first().contains(QStringLiteral("cannot be saved")));
 }
 
 WORKBENCH_TEST_MAIN(tst_View3D)

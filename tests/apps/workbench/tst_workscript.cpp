@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 DataManager contributors
 // SPDX-License-Identifier: BSD-3-Clause
 
-#include "ModalWindows.h"
 #include "PictureComparison.h"
 #include "Samples.h"
+#include "ScriptedWindowTest.h"
 #include "Widgets.h"
 #include "WindowTest.h"
 
@@ -14,28 +14,17 @@
 #include <workbench/project/Project.h>
 #include <workbench/quality/ScoreHistory.h>
 #include <workbench/selection/ProjectTree.h>
-#include <workbench/view/View3D.h>
-#include <workbench/view/ViewCommands.h>
-#include <workbench/window/MainWindow.h>
-#include <workbench/window/MeshingDialog.h>
 
 #include <basemodule/SelectModel.h>
 #include <datamanager/frame/InteractionManager.h>
 #include <datamanager/meshquality/MeshQualityPredict.h>
 #include <datamanager/selection/SelectedDataManager.h>
 
-#include <QAction>
-#include <QDockWidget>
-#include <QMouseEvent>
-#include <QTemporaryDir>
 #include <QTreeView>
 #include <QTreeWidget>
 #include <QVTKOpenGLNativeWidget.h>
 
 #include <vtkCamera.h>
-#include <vtkGenericOpenGLRenderWindow.h>
-#include <vtkRenderer.h>
-#include <vtkRendererCollection.h>
 
 #include <cmath>
 #include <set>
@@ -58,11 +47,6 @@ Items selectedItems(BaseModule::SelectModel model)
     return selection().getSelectedDataBySelectedModel(model);
 }
 
-void settle()
-{
-    QTest::qWait(60);
-}
-
 // By the model alone, which enters nothing in the history.
 float scoreOfMesh(int kernelID)
 {
@@ -79,13 +63,13 @@ QString fileWithProject(const QTemporaryDir& directory)
 
 // One sitting in the whole window, from the geometry to the project that is opened again: each function goes on where
 // the one before it ended. The plate is 0.2 long, 0.1 wide and 0.012 high, with a hole left of its middle.
-class tst_WorkScript : public QObject
+class tst_WorkScript : public ScriptedWindowTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase();
-    void cleanupTestCase();
+    void cleanupTestCase() { end(); }
 
     void meshes();
     void clicksFaces();
@@ -100,128 +84,17 @@ private Q_SLOTS:
     void savesAndReopens();
 
 private:
-    void choose(const char* text) const;
-    void mesh(const QString& size);
-    void clickAt(double x, double y, double z) const;
-    void drag(const QPoint& from, const QPoint& to) const;
-    /// Brings the dock of a view to the front.
-    template <class View>
-    View& raised() const;
-    /// Types a path into the dialog of that action and confirms it.
-    void saveAs(const QString& path);
-    vtkRenderer& renderer() const { return *m_canvas->renderWindow()->GetRenderers()->GetFirstRenderer(); }
-    vtkCamera& camera() const { return *renderer().GetActiveCamera(); }
-    /// Where a point of the model is seen, as the mouse counts.
-    QPointF placeOf(double x, double y, double z) const;
     /// Whether all nodes of a face lie at that coordinate.
     bool liesAt(const QPair<int, int>& face, std::size_t axis, double coordinate) const;
-    QImage picture() const;
-    /// "1 Copper; 3 Steel": what the dock shows.
-    QString projectMaterials() const;
     static bool isCornerThere();
     static int kernel() { return MeshManager::instance()->findKernels(QString()).value(0); }
-
-    QTemporaryDir m_directory;
-    std::unique_ptr<MainWindow> m_window;
-    QVTKOpenGLNativeWidget* m_canvas = nullptr;
 };
 
 void tst_WorkScript::initTestCase()
 {
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QFile::remove(ScoreHistory::modelPath());
     QVERIFY(QFile::copy(QStringLiteral(DATAMANAGER_SOURCE_DIR "/model/mesh.onnx"), ScoreHistory::modelPath()));
-    m_window = std::make_unique<MainWindow>();
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    m_canvas = m_window->findChild<View3D*>()->findChild<QVTKOpenGLNativeWidget*>();
-    m_canvas->setFocus();
-}
-
-void tst_WorkScript::cleanupTestCase()
-{
-    m_window.reset();
-    Project::instance()->close();
-}
-
-void tst_WorkScript::choose(const char* text) const
-{
-    for (QAction* action : m_window->findChildren<QAction*>()) {
-        if (action->text().remove(QLatin1Char('&')) == QString::fromUtf8(text)) {
-            QVERIFY2(action->isEnabled(), text);
-            action->trigger();
-            settle();
-            return;
-        }
-    }
-    QFAIL(text);
-}
-
-void tst_WorkScript::mesh(const QString& size)
-{
-    QSignalSpy loaded(MeshManager::instance(), &MeshManager::signal_loadFinished);
-    auto* dialog = m_window->findChild<MeshingDialog*>();
-    QVERIFY(dialog != nullptr && QTest::qWaitForWindowExposed(dialog));
-    type(*dialog->findChild<QLineEdit*>(), size);
-    QTest::keyClick(dialog->findChild<QLineEdit*>(), Qt::Key_Return);
-    QVERIFY(loaded.wait(120000));
-    QVERIFY(loaded.last().at(0).toInt() > 0);
-    finishClosing();
-    m_window->activateWindow();
-    m_canvas->setFocus();
-    settle();
-}
-
-QPointF tst_WorkScript::placeOf(double x, double y, double z) const
-{
-    renderer().SetWorldPoint(x, y, z, 1);
-    renderer().WorldToDisplay();
-    const double* place = renderer().GetDisplayPoint();
-    return {place[0], m_canvas->height() - 1 - place[1]};
-}
-
-void tst_WorkScript::clickAt(double x, double y, double z) const
-{
-    const Qt::KeyboardModifiers modifiers = InteractionManager::getInstance()->isActiveMultipleSelect()
-                                                ? Qt::KeyboardModifiers(Qt::ControlModifier)
-                                                : Qt::KeyboardModifiers(Qt::NoModifier);
-    QTest::mouseClick(m_canvas, Qt::LeftButton, modifiers, placeOf(x, y, z).toPoint());
-    settle();
-}
-
-void tst_WorkScript::drag(const QPoint& from, const QPoint& to) const
-{
-    QTest::mousePress(m_canvas, Qt::LeftButton, Qt::NoModifier, from);
-    for (const QPoint& place : {(from + to) / 2, to}) {
-        QMouseEvent move(QEvent::MouseMove, place, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(m_canvas, &move);
-    }
-    QTest::mouseRelease(m_canvas, Qt::LeftButton, Qt::NoModifier, to);
-    settle();
-}
-
-template <class View>
-View& tst_WorkScript::raised() const
-{
-    auto* view = m_window->findChild<View*>();
-    auto* dock = qobject_cast<QDockWidget*>(view->parentWidget());
-    dock->show();
-    dock->raise();
-    settle();
-    return *view;
-}
-
-void tst_WorkScript::saveAs(const QString& path)
-{
-    ModalWindows dialogs;
-    dialogs.giveFile(path);
-    choose("Save as…");
-    QCOMPARE(dialogs.met(), 1);
-    QVERIFY(QTest::qWaitFor([] { return !Project::instance()->isSaving(); }, 60000));
-    QCOMPARE(Project::instance()->path(), path);
-    QVERIFY(!Project::instance()->isModified());
+    showWindow();
 }
 
 bool tst_WorkScript::liesAt(const QPair<int, int>& face, std::size_t axis, double coordinate) const
@@ -240,23 +113,6 @@ bool tst_WorkScript::liesAt(const QPair<int, int>& face, std::size_t axis, doubl
         }
     }
     return count > 0;
-}
-
-QImage tst_WorkScript::picture() const
-{
-    const QString path = m_directory.filePath(QStringLiteral("picture.png"));
-    ViewCommands::instance()->saveScreenshot(path);
-    return QImage(path);
-}
-
-QString tst_WorkScript::projectMaterials() const
-{
-    QStringList texts;
-    const QAbstractItemModel& model = *part<QTreeView>(*m_window, "materialsProject").model();
-    for (int row = 0; row < model.rowCount(); ++row) {
-        texts.append(model.index(row, 0).data().toString() + QLatin1Char(' ') + model.index(row, 1).data().toString());
-    }
-    return texts.join(QStringLiteral("; "));
 }
 
 bool tst_WorkScript::isCornerThere()
