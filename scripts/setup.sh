@@ -13,7 +13,7 @@ set -euo pipefail
 
 packages=(build-essential cmake ninja-build git ca-certificates clang-format
   doxygen qtbase5-dev qttools5-dev qttools5-dev-tools libvtk9-dev libvtk9-qt-dev libquazip1-qt5-dev
-  libssl-dev libfast-float-dev libbenchmark-dev gmsh xvfb
+  libssl-dev libfast-float-dev libbenchmark-dev gmsh xvfb x11-utils
   strace attr e2fsprogs mandoc pkg-config)
 headers_version=1.21.0
 headers_sha256=14f7d959d5deacbcf1504830d4189f91fc67382b399ed9ae9d3aa9c4050ced08
