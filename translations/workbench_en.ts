@@ -527,6 +527,13 @@ By keys: arrows mark a bar, with Shift several; Space or Enter selects.</transla
     </message>
 </context>
 <context>
+    <name>Workbench::KeptSettings</name>
+    <message>
+        <source>Layout, language, favourites and recent projects are forgotten when the program ends: %1 cannot be written.</source>
+        <translation>Layout, language, favourites and recent projects are forgotten when the program ends: %1 cannot be written.</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::KernelChoice</name>
     <message>
         <source>The mesh that is shown (%1)</source>

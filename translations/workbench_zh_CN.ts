@@ -527,6 +527,13 @@ By keys: arrows mark a bar, with Shift several; Space or Enter selects.</source>
     </message>
 </context>
 <context>
+    <name>Workbench::KeptSettings</name>
+    <message>
+        <source>Layout, language, favourites and recent projects are forgotten when the program ends: %1 cannot be written.</source>
+        <translation>窗口布局、语言、收藏和最近的工程在程序结束后不会保留：无法写入 %1。</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::KernelChoice</name>
     <message>
         <source>The mesh that is shown (%1)</source>

@@ -5,6 +5,7 @@
 
 // Its enumeration is not declared here: lupdate takes that for a class and loses the one below.
 #include <workbench/window/Icons.h>
+#include <workbench/window/KeptSettings.h>
 
 #include <QList>
 #include <QMainWindow>
@@ -86,6 +87,7 @@ private:
     void saveScreenshot();
     void restoreLayout();
 
+    const KeptSettings m_settings;
     QList<Text> m_texts;
     QMenu* m_recentMenu = nullptr;
     QMenu* m_docksMenu = nullptr;
