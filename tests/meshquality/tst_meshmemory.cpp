@@ -20,11 +20,12 @@ int listsLeft = -1;
 } // namespace
 
 /// Stands before Qt's own: what an array gets no memory for ends in std::bad_alloc.
-QArrayData* QArrayData::allocate(size_t objectSize, size_t alignment, size_t capacity, AllocationOptions options) noexcept
+QArrayData* QArrayData::allocate(size_t objectSize, size_t alignment, size_t capacity,
+                                 AllocationOptions options) noexcept
 {
     using Function = QArrayData* (*)(size_t, size_t, size_t, AllocationOptions);
-    static const auto original = reinterpret_cast<Function>(
-        dlsym(RTLD_NEXT, "_ZN10QArrayData8allocateEmmm6QFlagsINS_16AllocationOptionEE"));
+    static const auto original =
+        reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN10QArrayData8allocateEmmm6QFlagsINS_16AllocationOptionEE"));
     // Texts and bytes have smaller parts.
     if (objectSize >= sizeof(int)) {
         if (listsLeft == 0) {
