@@ -205,10 +205,11 @@ void BarChart::changeEvent(QEvent* event)
     QVTKOpenGLNativeWidget::changeEvent(event);
 }
 
-void BarChart::resizeEvent(QResizeEvent* event)
+// Also when a pixel of the window becomes more of the screen.
+void BarChart::resizeGL(int width, int height)
 {
     note();
-    QVTKOpenGLNativeWidget::resizeEvent(event);
+    QVTKOpenGLNativeWidget::resizeGL(width, height);
 }
 
 void BarChart::paintGL()

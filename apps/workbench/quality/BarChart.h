@@ -44,9 +44,9 @@ public:
     void setFramed(const Range& places);
 
 protected:
+    void resizeGL(int width, int height) override;
     void paintGL() override;
     void changeEvent(QEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     /// Of the screen, where a pixel of the window may be several.

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void noBars();
     void followsThePalette();
     void followsTheSize();
+    void movesToAnotherWindow();
     void leavesTheMouseToTheWindow();
 
 private:
@@ -162,6 +163,25 @@ void tst_BarChart::followsTheSize()
     QCOMPARE(at(12, 40), base());
     QCOMPARE(at(75, 10), highlight());
     QCOMPARE(at(35, 5), base());
+}
+
+/// As when a dock floats: the graphics of the window before are gone.
+void tst_BarChart::movesToAnotherWindow()
+{
+    m_chart->setFramed({1, 2});
+    const QImage before = m_chart->grab().toImage();
+    QWidget other;
+    other.resize(m_window->size());
+    m_chart->setParent(&other);
+    m_chart->show();
+    other.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&other));
+    QTRY_COMPARE(m_chart->grab().toImage(), before);
+    m_chart->setBars({{1, blue}, {0.5, red}});
+    QCOMPARE(at(50, 10), blue);
+    m_chart->setParent(m_window.get());
+    m_chart->show();
+    QTRY_COMPARE(at(50, 10), blue);
 }
 
 void tst_BarChart::leavesTheMouseToTheWindow()
