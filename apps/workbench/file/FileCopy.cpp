@@ -11,6 +11,13 @@
 #include <vector>
 
 namespace Workbench {
+namespace {
+
+constexpr QFileDevice::Permissions readingAndWriting = QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                                       QFileDevice::ReadGroup | QFileDevice::WriteGroup |
+                                                       QFileDevice::ReadOther | QFileDevice::WriteOther;
+
+} // namespace
 
 FileCopy replaceByCopy(QFile& source, const QString& target, const CopyProgress& progress)
 {
@@ -20,6 +27,8 @@ FileCopy replaceByCopy(QFile& source, const QString& target, const CopyProgress&
     if (!copy.open()) {
         return {false, false, copy.problem()};
     }
+    // Nobody reads the copy who may not read the source. Where the disk knows no permissions, there are none to keep.
+    copy.setPermissions((source.permissions() & readingAndWriting) | QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     std::vector<char> piece(pieceSize);
     for (qint64 written = 0; !source.atEnd();) {
         const qint64 length = source.read(piece.data(), pieceSize);

@@ -34,6 +34,11 @@ bool ReplacementFile::open()
     return file.open(0) && m_content->open(file.descriptor(), QIODevice::ReadWrite | QIODevice::Unbuffered);
 }
 
+bool ReplacementFile::setPermissions(QFileDevice::Permissions permissions)
+{
+    return m_content->setPermissions(permissions);
+}
+
 QIODevice& ReplacementFile::device()
 {
     return *m_content;

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QFileDevice>
 #include <QIODevice>
 #include <QString>
 
@@ -25,6 +26,8 @@ public:
     /// False, with a problem(), when the target is no regular file or may not be written, or another program is
     /// replacing it just now.
     bool open();
+    /// In place of the target's own, or of those that a new file gets; false when they cannot be set.
+    bool setPermissions(QFileDevice::Permissions permissions);
     /// Where the content goes.
     QIODevice& device();
     /// Puts the content in place of the target. False, with a problem() and the target as it was, when that fails.

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <memory>
 
 namespace Workbench {
@@ -45,6 +46,13 @@ KernelReading readCopy(const MeshLoader::Job& job, const KernelProgress& progres
     return other.isGivenUp ? KernelReading{{}, true, {}} : reading;
 }
 
+void removeCopy(const MeshLoader::Job& job)
+{
+    if (!job.copy.isEmpty() && QFileInfo(job.source) != QFileInfo(job.copy)) {
+        QFile::remove(job.copy);
+    }
+}
+
 KernelReading readOne(const MeshLoader::Job& job, const KernelProgress& progress)
 {
     // Looked at first: copying a pipe would never end.
@@ -59,8 +67,8 @@ KernelReading readOne(const MeshLoader::Job& job, const KernelProgress& progress
         return {{}, false, MeshLoader::tr("it cannot be copied to %1").arg(QDir::toNativeSeparators(job.copy))};
     }
     const KernelReading reading = readCopy(job, progress);
-    if (!reading.mesh && QFileInfo(job.source) != QFileInfo(job.copy)) {
-        QFile::remove(job.copy);
+    if (!reading.mesh) {
+        removeCopy(job);
     }
     return reading;
 }
@@ -76,7 +84,10 @@ void MeshLoader::start(const QList<Job>& jobs, const Finish& finish)
 {
     const auto readings = std::make_shared<QVector<KernelReading>>();
     m_task.start([jobs, readings](const KernelProgress& progress) { *readings = read(jobs, progress); },
-                 [readings, finish](bool isCancelled) {
+                 [jobs, readings, finish](bool isCancelled) {
+                     if (isCancelled) { // maybe after all was done
+                         std::for_each(jobs.begin(), jobs.begin() + readings->size(), removeCopy);
+                     }
                      finish(isCancelled ? QVector<KernelReading>{{{}, true, {}}} : *readings);
                  });
 }

@@ -49,6 +49,8 @@ private Q_SLOTS:
     void readsWithoutTheOtherCopy();
     void unreadableFileIsRemoved();
     void projectsFileStays();
+    void cancelledAtTheEndLeavesNoCopy();
+    void copyKeepsTheSourcePrivate();
 
 private:
     QString path(const char* name) const { return m_directory->filePath(QString::fromLatin1(name)); }
@@ -196,5 +198,39 @@ void tst_MeshLoader::projectsFileStays()
     QCOMPARE(files(), QStringList({text("copy.msh"), text("other.msh")}));
 }
 
-QTEST_APPLESS_MAIN(tst_MeshLoader)
+/// All is done, but nobody was told.
+void tst_MeshLoader::cancelledAtTheEndLeavesNoCopy()
+{
+    MeshLoader loader;
+    QVector<KernelReading> told;
+    loader.start({job()}, [&told](const QVector<KernelReading>& readings) { told = readings; });
+    // No events meanwhile; the other copy comes last.
+    for (int i = 0; i < 2000 && !files().contains(QStringLiteral("other.msh")); ++i) {
+        QTest::qSleep(5);
+    }
+    QTest::qSleep(200);
+    QCOMPARE(files(), (QStringList{QStringLiteral("copy.msh"), QStringLiteral("other.msh")}));
+    loader.cancel();
+    QTRY_COMPARE(told.size(), 1);
+    QVERIFY(told.first().isCancelled && !told.first().mesh);
+    QCOMPARE(files(), QStringList{QStringLiteral("other.msh")});
+}
+
+void tst_MeshLoader::copyKeepsTheSourcePrivate()
+{
+    const auto permissions = [this](const char* name) {
+        return QFile::permissions(path(name)) & ~(QFile::ReadUser | QFile::WriteUser | QFile::ExeUser);
+    };
+    writeContent(path("source"), "private");
+    writeContent(path("target"), "before");
+    QVERIFY(QFile::setPermissions(path("source"), QFile::ReadOwner));
+    QVERIFY(QFile::setPermissions(path("target"), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
+    for (const char* const target : {"target", "new"}) {
+        QVERIFY(copied(path("source"), path(target), [](double) { return true; }).isDone);
+        QCOMPARE(contentOf(path(target)), QByteArray("private"));
+        QCOMPARE(permissions(target), QFile::ReadOwner | QFile::WriteOwner);
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_MeshLoader)
 #include "tst_meshloader.moc"
