@@ -170,6 +170,9 @@ class CoordinateInterfacesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    /// Before any system is made.
+    void initTestCase() { QCOMPARE(System::getMaxID(), 0); }
+
     void declareTheirFieldsInOrder_data()
     {
         QTest::addColumn<QString>("header");

@@ -27,7 +27,9 @@ private Q_SLOTS:
     void logsExamplesThatCannotBeCreated();
     void logsExamplesThatCannotBeSerialized();
     void keepsMaterialsThatDoNotFitIntoTheMemory();
+    void numbersFromOneOnAfterwards();
     void takesNoPartOfAContent();
+    void keepsAFileThatCannotBeLookedAt();
     void keepsExamplesThatDoNotFitIntoTheMemory();
 
 private:
@@ -158,6 +160,32 @@ void TestMaterialFailures::keepsMaterialsThatDoNotFitIntoTheMemory()
     QCOMPARE(m_fixture->software(), QStringLiteral("next 1"));
     m_fixture->createSoftware(QStringLiteral("new"));
     QCOMPARE(contentOf(m_fixture->softwarePath() + QStringLiteral(".unreadable")), content);
+}
+
+/// As after an empty file, whatever the library held before.
+void TestMaterialFailures::numbersFromOneOnAfterwards()
+{
+    m_fixture->createSoftware(QStringLiteral("a"));
+    m_fixture->createSoftware(QStringLiteral("b"));
+    writeContent(m_fixture->softwarePath(), R"({"materialList":[{"id":1,"englishName":"a","colour":"red"}]})");
+    RecordFaults::now().serializationsLeft = 0;
+    m_fixture->manager().initSoftwareMaterial();
+    RecordFaults::now().serializationsLeft = -1;
+    QCOMPARE(m_fixture->software(), QStringLiteral("next 1"));
+}
+
+/// Another program's file, which does not fit into the memory when it is to be replaced.
+void TestMaterialFailures::keepsAFileThatCannotBeLookedAt()
+{
+    m_fixture->createSoftware(QStringLiteral("a"));
+    const QByteArray content("of another program");
+    writeContent(m_fixture->softwarePath(), content);
+    RecordFaults::now().isReadingShort = true;
+    expectLine(QStringLiteral("Write software material library file fail, please check path: %1.")
+                   .arg(m_fixture->softwarePath()));
+    m_fixture->createSoftware(QStringLiteral("b"));
+    RecordFaults::now().isReadingShort = false;
+    QCOMPARE(contentOf(m_fixture->softwarePath()), content);
 }
 
 /// The record has the first of two by then.

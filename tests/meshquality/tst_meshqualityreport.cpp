@@ -419,6 +419,12 @@ void MeshQualityReportTest::forgetsTheMeshBefore()
     QCOMPARE(report.elementCount(), 0);
     QCOMPARE(report.nodeCount(), qint64(0));
     QVERIFY(report.values(Metric::Shape).empty());
+    QVERIFY(report.problem() != MeshQualityReport::Problem::None && !report.problemText().isEmpty());
+    QVERIFY(!report.measure(file("$MeshFormat\n4.1 0 8\n$EndMeshFormat\n")));
+    QVERIFY(!report.otherFormat().isEmpty());
+    QVERIFY(report.measure(MeshFiles::samples().first()));
+    QVERIFY(report.problem() == MeshQualityReport::Problem::None);
+    QCOMPARE(report.problemText() + report.otherFormat(), QString());
 }
 
 void MeshQualityReportTest::reportsProgressAndIsCancelled()

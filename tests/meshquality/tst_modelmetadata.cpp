@@ -30,6 +30,7 @@ private Q_SLOTS:
     void readsTrainingRanges();
     void findsFeaturesOutsideOfTraining_data();
     void findsFeaturesOutsideOfTraining();
+    void looksAtEachFeature();
     void takesTheBoundsAsInside();
     void explainsScores_data();
     void explainsScores();
@@ -144,6 +145,7 @@ void ModelMetadataTest::readsTrainingRanges_data()
     row(R"({"Shape": [0.25, 0.75], "Volume": [1]})", false, false);
     row(R"({"Shape": [0.75, 0.25]})", false, false);
     row(R"({"Shape": [0.25, "0.75"]})", false, false);
+    row(R"({"Shape": ["0.25", 0.75]})", false, false);
     row(R"({"Shape": [0.25, 0.75, 1]})", false, false);
     row(R"({"Shape": 0.25})", false, false);
     row(R"([0.25, 0.75])", false, false);
@@ -199,6 +201,22 @@ void ModelMetadataTest::findsFeaturesOutsideOfTraining()
         QCOMPARE(found[0].value, static_cast<double>(shape));
         QCOMPARE(found[0].range.lowest, 0.5);
         QCOMPARE(found[0].range.highest, 0.9);
+    }
+}
+
+void ModelMetadataTest::looksAtEachFeature()
+{
+    for (int i = 0; i < DataManager::MeshQualityReport::metricCount; ++i) {
+        const auto metric = static_cast<Metric>(i);
+        const QByteArray name = DataManager::MeshQualityReport::metricName(metric).toLatin1();
+        QualityModelCard card;
+        QVERIFY(card.read(file(withEntry("trainingRanges", "{\"" + name + "\": [1, 2]}"))));
+        QualityModelCard::Features features{};
+        features[static_cast<std::size_t>(i)] = 3.0F;
+        const std::vector<QualityModelCard::Excess> found = card.outsideOfTraining(features);
+        QCOMPARE(found.size(), std::size_t(1));
+        QCOMPARE(found[0].feature, metric);
+        QCOMPARE(found[0].value, 3.0);
     }
 }
 

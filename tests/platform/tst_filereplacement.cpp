@@ -112,6 +112,8 @@ private Q_SLOTS:
     void opensAgainAfterAFailure()
     {
         FileReplacement replacement(path("later/file"));
+        QCOMPARE(replacement.error(), 0);
+        QCOMPARE(replacement.descriptor(), -1);
         QVERIFY(!replacement.open(0));
         QCOMPARE(replacement.error(), ENOENT);
         QCOMPARE(replacement.descriptor(), -1);
@@ -130,6 +132,17 @@ private Q_SLOTS:
         QVERIFY(replacement.write("2nd", 3) && replacement.commit());
         QCOMPARE(contentOf(path("file")), QByteArray("2nd"));
         QCOMPARE(entries(), QStringList{QStringLiteral("file")});
+    }
+
+    /// What the number of the file that was open stands for may be another one's by now.
+    void hasNoFileAfterAFailure()
+    {
+        QVERIFY(QDir(m_directory->path()).mkdir(QStringLiteral("below")));
+        FileReplacement replacement(path("below/file"));
+        QVERIFY(replacement.open(0));
+        QVERIFY(QDir(path("below")).removeRecursively());
+        QVERIFY(!replacement.open(0));
+        QCOMPARE(replacement.descriptor(), -1);
     }
 
     void removesWhatWasNotPutInPlace()

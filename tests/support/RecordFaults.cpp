@@ -3,6 +3,7 @@
 
 #include <support/RecordFaults.h>
 
+#include <basemodule/GlobalHelper.h>
 #include <basemodule/SerializerBase.h>
 
 #include <QMetaObject>
@@ -48,4 +49,14 @@ QByteArray QJsonHelper::SerializerBase::serialize(const void* object, const QMet
     }
     faults.serializationsLeft -= faults.serializationsLeft > 0 ? 1 : 0;
     return faults.isSerializationFailing ? QByteArray() : original(object, meta, isIndented);
+}
+
+bool BaseModule::GlobalHelper::readFile(QString path, QByteArray& out)
+{
+    using Function = bool (*)(QString, QByteArray&);
+    static const auto original = next<Function>("_ZN10BaseModule12GlobalHelper8readFileE7QStringR10QByteArray");
+    if (RecordFaults::now().isReadingShort) {
+        throw std::bad_alloc();
+    }
+    return original(path, out);
 }

@@ -6,8 +6,8 @@
 #include <QStringList>
 
 /// Records that cannot be created or serialised. That does not happen with the records as they are, so a program with
-/// RecordFaults.cpp puts itself in front of two functions: Qt's creation of objects by meta-object and the serializer.
-/// The serializer is also where the memory ends. Needs shared libraries and exported symbols of the program.
+/// RecordFaults.cpp puts itself in front of Qt's creation of objects by meta-object and of the serializer. There, and
+/// where files are read, the memory may also end. Needs shared libraries and exported symbols of the program.
 struct RecordFaults
 {
     bool isCreationFailing = false;
@@ -16,6 +16,8 @@ struct RecordFaults
     int serializationsLeft = -1;
     /// How many records are created before it ends, for one more.
     int creationsLeft = -1;
+    /// No file fits into the memory.
+    bool isReadingShort = false;
 
     /// Those that are in force.
     static RecordFaults& now()
