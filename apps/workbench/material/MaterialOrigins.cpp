@@ -76,11 +76,12 @@ QMap<int, Origin> originsFrom(const QJsonObject& object)
     return origins;
 }
 
+// A file that somebody removed needs no copy.
 bool keepFile()
 {
     QByteArray content;
-    return GlobalHelper::readFile(path(), content) &&
-           (content.isEmpty() || DataManager::KeptCopy::keep(path(), content));
+    return !QFile::exists(path()) || (GlobalHelper::readFile(path(), content) &&
+                                      (content.isEmpty() || DataManager::KeptCopy::keep(path(), content)));
 }
 
 } // namespace

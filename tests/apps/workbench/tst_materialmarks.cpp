@@ -42,6 +42,7 @@ private Q_SLOTS:
     void keepsDamagedOrigins_data();
     void keepsDamagedOrigins();
     void keepsPartlyDamagedOrigins();
+    void writesOriginsWhereTheDamagedFileIsGone();
     void showsAMissingMaterial();
 
 private:
@@ -290,6 +291,19 @@ void tst_MaterialMarks::keepsPartlyDamagedOrigins()
     QCOMPARE(contentOf(originsPath() + text(".unreadable")), content);
     MaterialLibraries::instance()->loadProject();
     QCOMPARE(cells("materialsProject", MaterialTable::OriginColumn), text("this project; "));
+}
+
+void tst_MaterialMarks::writesOriginsWhereTheDamagedFileIsGone()
+{
+    m_fixture->libraries().createProject(text("Copper"));
+    writeContent(originsPath(), "damaged");
+    MaterialLibraries::instance()->loadProject();
+    QVERIFY(QFile::remove(originsPath()));
+    MaterialLibraries::instance()->create(BaseModule::ProjectLib, {0, text("锡"), text("Tin"), {}, {}, {}, {}, {}});
+    QVERIFY(MaterialLibraries::instance()->saveProject());
+    QVERIFY(!QFile::exists(originsPath() + text(".unreadable")));
+    MaterialLibraries::instance()->loadProject();
+    QCOMPARE(cells("materialsProject", MaterialTable::OriginColumn), text("; this project"));
 }
 
 void tst_MaterialMarks::showsAMissingMaterial()
