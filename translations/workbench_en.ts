@@ -943,12 +943,12 @@ Version %1</translation>
 <context>
     <name>Workbench::MaterialNumber</name>
     <message>
-        <source>A new material would get number %1 and replace &apos;%2&apos;: the numbers of this library have gaps.</source>
-        <translation>A new material would get number %1 and replace &apos;%2&apos;: the numbers of this library have gaps.</translation>
-    </message>
-    <message>
         <source>A new material would get number %1, which volume &apos;%2&apos; has from a material that is missing. Give the volumes with this number another material, or make them free space, first.</source>
         <translation>A new material would get number %1, which volume &apos;%2&apos; has from a material that is missing. Give the volumes with this number another material, or make them free space, first.</translation>
+    </message>
+    <message>
+        <source>A new material would get number %1 and replace &apos;%2&apos;: the numbers of this library have gaps. To make room, copy &apos;%2&apos; to the other library and delete it here; afterwards copy it back and assign it again.</source>
+        <translation>A new material would get number %1 and replace &apos;%2&apos;: the numbers of this library have gaps. To make room, copy &apos;%2&apos; to the other library and delete it here; afterwards copy it back and assign it again.</translation>
     </message>
 </context>
 <context>

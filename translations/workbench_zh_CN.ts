@@ -943,12 +943,12 @@ Version %1</source>
 <context>
     <name>Workbench::MaterialNumber</name>
     <message>
-        <source>A new material would get number %1 and replace &apos;%2&apos;: the numbers of this library have gaps.</source>
-        <translation>新材料会得到编号 %1 并替换“%2”：此材料库的编号不连续。</translation>
-    </message>
-    <message>
         <source>A new material would get number %1, which volume &apos;%2&apos; has from a material that is missing. Give the volumes with this number another material, or make them free space, first.</source>
         <translation>新材料会得到编号 %1，而体“%2”仍引用该编号的缺失材料。请先为使用此编号的体指定其他材料，或设为自由空间。</translation>
+    </message>
+    <message>
+        <source>A new material would get number %1 and replace &apos;%2&apos;: the numbers of this library have gaps. To make room, copy &apos;%2&apos; to the other library and delete it here; afterwards copy it back and assign it again.</source>
+        <translation>新材料会得到编号 %1 并替换“%2”：此材料库的编号不连续。要腾出位置，请将“%2”复制到另一材料库并在此删除；之后再复制回来并重新赋予。</translation>
     </message>
 </context>
 <context>

@@ -25,7 +25,9 @@ class Texts
 QString numberRefusal(BaseModule::MaterialLibType type, int id)
 {
     if (const Materials::Material holder = MaterialLibraries::material(type, id)) {
-        return Texts::tr("A new material would get number %1 and replace '%2': the numbers of this library have gaps.")
+        return Texts::tr("A new material would get number %1 and replace '%2': the numbers of this library have gaps. "
+                         "To make room, copy '%2' to the other library and delete it here; afterwards copy it back "
+                         "and assign it again.")
             .arg(id)
             .arg(materialTitle(*holder));
     }

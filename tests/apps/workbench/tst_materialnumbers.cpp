@@ -3,6 +3,8 @@
 
 #include "MaterialViewFixture.h"
 
+#include <workbench/material/MaterialNumber.h>
+
 #include <QTreeWidget>
 
 using Workbench::GeometryManager;
@@ -19,6 +21,7 @@ private Q_SLOTS:
 
     void creatingSparesVolumes();
     void creatingSparesMaterials();
+    void makesRoomAsTold();
     void copyingSparesVolumes();
     void copyingToTheSoftwareLibrary();
 
@@ -91,8 +94,11 @@ void tst_MaterialNumbers::creatingSparesMaterials()
     type(dialog, "chineseName", text("空气"));
     press(dialog, QDialogButtonBox::Ok);
     QVERIFY(dialog.isVisible());
-    QCOMPARE(shown(dialog, "refusal"),
-             text("A new material would get number 3 and replace 'Mica': the numbers of this library have gaps."));
+    QCOMPARE(
+        shown(dialog, "refusal"),
+        text("A new material would get number 3 and replace 'Mica': the numbers of this library have gaps. To make "
+             "room, copy 'Mica' to the other library and delete it here; afterwards copy it back and assign it "
+             "again."));
     QCOMPARE(libraries().project(), text("1:Steel 3:Mica next 3"));
     press(dialog, QDialogButtonBox::Cancel);
     finishClosing();
@@ -103,6 +109,22 @@ void tst_MaterialNumbers::creatingSparesMaterials()
     type(edited, "englishName", text("Muscovite"));
     press(edited, QDialogButtonBox::Ok);
     QCOMPARE(libraries().project(), text("1:Steel 3:Muscovite next 3"));
+}
+
+void tst_MaterialNumbers::makesRoomAsTold()
+{
+    for (const char* const name : {"Steel", "Iron", "Mica"}) {
+        libraries().createProject(text(name));
+    }
+    leaveOut(2);
+    QVERIFY(!Workbench::materialNumberRefusal(BaseModule::ProjectLib, 1).isEmpty());
+    MaterialLibraries::instance()->import(BaseModule::ProjectLib, {3}, {});
+    MaterialLibraries::instance()->remove(BaseModule::ProjectLib, {3});
+    QCOMPARE(Workbench::materialNumberRefusal(BaseModule::ProjectLib, 1), QString());
+    libraries().createProject(text("Air"));
+    QCOMPARE(Workbench::materialNumberRefusal(BaseModule::ProjectLib, 1), QString());
+    MaterialLibraries::instance()->import(BaseModule::SoftwareLib, {1}, {});
+    QCOMPARE(libraries().project(), text("1:Steel 3:Air 4:Mica next 5"));
 }
 
 void tst_MaterialNumbers::copyingSparesVolumes()
