@@ -51,6 +51,8 @@ public:
     QVector<double> getBoundingBox(const QList<int>& componentIDList) override;
     bool save(const QString& filePath) override;
     bool load(const QString& filePath) override;
+    /// Whether load() takes the file. Any thread may ask.
+    static bool isDescription(const QString& filePath);
 
     /// The members of a set; none when there is no such set.
     QList<QPair<int, int>> getSetMembers(int setID) const;

@@ -58,6 +58,15 @@ QString keySets()
 // Identifiers of a file beyond this are damage: nobody issues so many.
 constexpr int largestPossibleID = 1000000;
 
+// Null when the file is no description of volumes.
+QJsonObject readDescription(const QString& filePath)
+{
+    QByteArray content;
+    const bool isRead = GlobalHelper::readFile(filePath, content);
+    const QJsonObject object = isRead ? QJsonDocument::fromJson(content).object() : QJsonObject();
+    return object.value(keyComponents()).isArray() ? object : QJsonObject();
+}
+
 } // namespace
 
 QJsonObject GeometryManager::componentToJson(int componentID) const
@@ -86,17 +95,18 @@ bool GeometryManager::save(const QString& filePath)
 
 bool GeometryManager::load(const QString& filePath)
 {
-    QByteArray content;
-    if (!GlobalHelper::readFile(filePath, content)) {
-        return false;
-    }
-    const QJsonDocument document = QJsonDocument::fromJson(content);
-    if (!document.isObject() || !document.object().value(keyComponents()).isArray()) {
+    const QJsonObject description = readDescription(filePath);
+    if (description.isEmpty()) {
         return false;
     }
     clear();
-    takeJson(document.object());
+    takeJson(description);
     return true;
+}
+
+bool GeometryManager::isDescription(const QString& filePath)
+{
+    return !readDescription(filePath).isEmpty();
 }
 
 void GeometryManager::takeJson(const QJsonObject& object)

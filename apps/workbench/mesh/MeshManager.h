@@ -79,6 +79,8 @@ public:
     bool save(const QString& filePath) override;
     /// Mesh files are sought beside the file. Reads them before it returns; restore() does so in the background.
     bool load(const QString& filePath) override;
+    /// Whether the file describes meshes, so that load() and restore() go on to the mesh files. Any thread may ask.
+    static bool isDescription(const QString& filePath);
 
     /// The mesh of a kernel; null when there is no such kernel.
     QSharedPointer<const KernelMesh> mesh(int kernelID) const;

@@ -164,6 +164,11 @@ bool MeshManager::load(const QString& filePath)
     return true;
 }
 
+bool MeshManager::isDescription(const QString& filePath)
+{
+    return !readDescription(filePath).isEmpty();
+}
+
 void MeshManager::restore(const QString& filePath)
 {
     readDescribed(filePath, readDescription(filePath));

@@ -3,6 +3,9 @@
 
 #include <workbench/project/ProjectFiles.h>
 
+#include <workbench/geometry/GeometryManager.h>
+#include <workbench/mesh/MeshManager.h>
+
 #include <basemodule/GlobalConfig.h>
 #include <basemodule/GlobalHelper.h>
 #include <configoption/TextCipher.h>
@@ -150,7 +153,7 @@ QString ProjectFiles::check(const QString& directory, Description& content)
     if (object.value(keyVersion()).toInt() != formatVersion) {
         return say(QT_TRANSLATE_NOOP("Workbench::ProjectFiles", "it was saved by a newer version of the program"));
     }
-    if (readObject(geometry(directory)).isEmpty() || readObject(mesh(directory)).isEmpty()) {
+    if (!GeometryManager::isDescription(geometry(directory)) || !MeshManager::isDescription(mesh(directory))) {
         return say(QT_TRANSLATE_NOOP("Workbench::ProjectFiles", "its description of geometry or mesh is damaged"));
     }
     content.geometry.name = QFileInfo(object.value(keyGeometry()).toString()).fileName();

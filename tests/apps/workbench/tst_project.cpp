@@ -19,6 +19,7 @@
 #include <datamodel/MaterialPropertyData.h>
 
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTranslator>
 
@@ -73,6 +74,8 @@ private Q_SLOTS:
     void changesAreNoticed();
     void unreadableKeepsWhatIsOpen_data();
     void unreadableKeepsWhatIsOpen();
+    void damagedDescriptionsAreRefused_data();
+    void damagedDescriptionsAreRefused();
     void failedSaveKeepsTheFile();
     void refusesNamesOfOtherPlaces();
     void cancelledReadingKeepsTheMeshFile();
@@ -289,6 +292,58 @@ void tst_Project::unreadableKeepsWhatIsOpen()
     QCOMPARE(MeshManager::instance()->getKernelCount(), 1);
     QVERIFY(!Project::instance()->isModified());
     QCOMPARE(QDir(WorkingDirectory::parentPath()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
+}
+
+void tst_Project::damagedDescriptionsAreRefused_data()
+{
+    QTest::addColumn<QByteArray>("version");
+    QTest::addColumn<QByteArray>("geometry");
+    QTest::addColumn<QByteArray>("mesh");
+    QTest::addColumn<QString>("reason");
+    const auto row = [](const char* name, const char* geometry, const char* mesh, const char* reason) {
+        QTest::newRow(name) << QByteArray("1") << QByteArray(geometry) << QByteArray(mesh)
+                            << QString::fromLatin1(reason);
+    };
+    const auto kernel = [&row](const char* name, const char* members, const char* reason) {
+        row(name, R"({"components": []})", QByteArray(R"({"kernels": [)").append(members).append("]}"), reason);
+    };
+    const char* const damaged = "its description of geometry or mesh is damaged";
+    kernel("sound", "", "");
+    row("another geometry", R"({"x": 1})", R"({"kernels": []})", damaged);
+    row("components of another type", R"({"components": {}})", R"({"kernels": []})", damaged);
+    row("another mesh", R"({"components": []})", R"({"x": 1})", damaged);
+    row("kernels of another type", R"({"components": []})", R"({"kernels": 1})", damaged);
+    kernel("a kernel without number", R"({"id": 0, "file": "mesh-1.msh"})", damaged);
+    kernel("a kernel beyond numbers", R"({"id": 1000001, "file": "mesh-1.msh"})", damaged);
+    kernel("a kernel without file", R"({"id": 1})", damaged);
+    kernel("a kernel of another place", R"({"id": 1, "file": "../mesh-1.msh"})", damaged);
+    kernel("a kernel that is a number", "7", damaged);
+}
+
+void tst_Project::damagedDescriptionsAreRefused()
+{
+    QFETCH(QByteArray, version);
+    QFETCH(QByteArray, geometry);
+    QFETCH(QByteArray, mesh);
+    QFETCH(QString, reason);
+    createMaterial(4);
+    QVERIFY(Project::instance()->saveAs(path("good.wbproj")));
+    const QStringList names{QStringLiteral("project.json"), QStringLiteral("geometry.json"),
+                            QStringLiteral("mesh.json")};
+    writeFile(m_directory.filePath(names[0]), R"({"format": "workbench project", "version": )" + version + "}");
+    writeFile(m_directory.filePath(names[1]), geometry);
+    writeFile(m_directory.filePath(names[2]), mesh);
+    QCOMPARE(ProjectArchive::pack(m_directory.path(), names, path("described.wbproj")), QString());
+
+    if (reason.isEmpty()) {
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression(QStringLiteral("^Read project material library file ")));
+    }
+    Messages messages;
+    QCOMPARE(Project::instance()->open(path("described.wbproj")), reason.isEmpty());
+    QCOMPARE(messages.list.size(), reason.isEmpty() ? 0 : 1);
+    QVERIFY2(reason.isEmpty() || messages.list.first().endsWith(reason), qPrintable(messages.list.value(0)));
+    QCOMPARE(Project::instance()->path(), path(reason.isEmpty() ? "described.wbproj" : "good.wbproj"));
+    QVERIFY(reason.isEmpty() || materialValue() == 4.0);
 }
 
 void tst_Project::failedSaveKeepsTheFile()
