@@ -1235,6 +1235,10 @@ Version %1</translation>
         <source>its description of geometry or mesh is damaged</source>
         <translation>its description of geometry or mesh is damaged</translation>
     </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>it is damaged</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::ProjectTree</name>

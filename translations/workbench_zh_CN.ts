@@ -1235,6 +1235,10 @@ Version %1</source>
         <source>its description of geometry or mesh is damaged</source>
         <translation>其几何或网格的描述已损坏</translation>
     </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>文件已损坏</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::ProjectTree</name>

@@ -17,6 +17,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <cmath>
+
 using BaseModule::GlobalHelper;
 
 namespace Workbench {
@@ -99,6 +101,15 @@ CoordinateDisplay coordinatesFrom(const QJsonObject& object)
             idsFrom(object.value(keyHiddenAxes()).toArray())};
 }
 
+// What is no number counts as 0, which never was a version.
+QString versionRefusal(double version)
+{
+    if (version > formatVersion && version == std::floor(version)) {
+        return say(QT_TRANSLATE_NOOP("Workbench::ProjectFiles", "it was saved by a newer version of the program"));
+    }
+    return version == formatVersion ? QString() : say(QT_TRANSLATE_NOOP("Workbench::ProjectFiles", "it is damaged"));
+}
+
 } // namespace
 
 QString ProjectFiles::materials(const QString& directory)
@@ -150,8 +161,9 @@ QString ProjectFiles::check(const QString& directory, Description& content)
     if (object.value(keyFormat()).toString() != formatName()) {
         return say(QT_TRANSLATE_NOOP("Workbench::ProjectFiles", "it is an archive, but no project"));
     }
-    if (object.value(keyVersion()).toInt() != formatVersion) {
-        return say(QT_TRANSLATE_NOOP("Workbench::ProjectFiles", "it was saved by a newer version of the program"));
+    const QString refusal = versionRefusal(object.value(keyVersion()).toDouble());
+    if (!refusal.isEmpty()) {
+        return refusal;
     }
     if (!GeometryManager::isDescription(geometry(directory)) || !MeshManager::isDescription(mesh(directory))) {
         return say(QT_TRANSLATE_NOOP("Workbench::ProjectFiles", "its description of geometry or mesh is damaged"));

@@ -318,6 +318,18 @@ void tst_Project::damagedDescriptionsAreRefused_data()
     kernel("a kernel without file", R"({"id": 1})", damaged);
     kernel("a kernel of another place", R"({"id": 1, "file": "../mesh-1.msh"})", damaged);
     kernel("a kernel that is a number", "7", damaged);
+    const auto version = [](const char* name, const char* number, const char* reason) {
+        QTest::newRow(name) << QByteArray(number) << QByteArray(R"({"components": []})")
+                            << QByteArray(R"({"kernels": []})") << QString::fromLatin1(reason);
+    };
+    const char* const newer = "it was saved by a newer version of the program";
+    version("the next version", "2", newer);
+    version("a version beyond integers", "1e300", newer);
+    version("no version", "null", "it is damaged");
+    version("version 0", "0", "it is damaged");
+    version("a negative version", "-1", "it is damaged");
+    version("a version between", "1.5", "it is damaged");
+    version("a text for a version", "\"2\"", "it is damaged");
 }
 
 void tst_Project::damagedDescriptionsAreRefused()
