@@ -248,6 +248,10 @@ Exit codes: 0 ok, 2 wrong call, 3 FILE cannot be read
         <source>Origin z</source>
         <translation>Origin z</translation>
     </message>
+    <message>
+        <source>The project&apos;s file of coordinate systems is damaged, and no copy of it can be kept beside it: is there space, and permission?</source>
+        <translation>The project&apos;s file of coordinate systems is damaged, and no copy of it can be kept beside it: is there space, and permission?</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::CoordinateDock</name>
@@ -1184,6 +1188,14 @@ Version %1</translation>
     <message>
         <source>No working directory can be made in %1. The project&apos;s working files lie in %2, where other programs may remove them.</source>
         <translation>No working directory can be made in %1. The project&apos;s working files lie in %2, where other programs may remove them.</translation>
+    </message>
+    <message>
+        <source>The coordinate systems of the project %1 cannot be read: %2</source>
+        <translation>The coordinate systems of the project %1 cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>their file is damaged. It is kept in the project</source>
+        <translation>their file is damaged. It is kept in the project</translation>
     </message>
 </context>
 <context>

@@ -248,6 +248,10 @@ Exit codes: 0 ok, 2 wrong call, 3 FILE cannot be read
         <source>Origin z</source>
         <translation>原点 z</translation>
     </message>
+    <message>
+        <source>The project&apos;s file of coordinate systems is damaged, and no copy of it can be kept beside it: is there space, and permission?</source>
+        <translation>工程的坐标系文件已损坏，且无法在其旁保留副本：是否有空间和权限？</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::CoordinateDock</name>
@@ -1184,6 +1188,14 @@ Version %1</source>
     <message>
         <source>No working directory can be made in %1. The project&apos;s working files lie in %2, where other programs may remove them.</source>
         <translation>无法在 %1 中创建工作目录。项目的工作文件位于 %2，其他程序可能会将其删除。</translation>
+    </message>
+    <message>
+        <source>The coordinate systems of the project %1 cannot be read: %2</source>
+        <translation>无法读取工程 %1 的坐标系：%2</translation>
+    </message>
+    <message>
+        <source>their file is damaged. It is kept in the project</source>
+        <translation>其文件已损坏。该文件保留在工程中</translation>
     </message>
 </context>
 <context>

@@ -224,6 +224,12 @@ void CoordinateDialog::accept()
     }
     CoordinateSystems& systems = *CoordinateSystems::instance();
     const RelativeCoordinateSystem* const system = coordinateRegistry().getCoordinateSystemByID(m_id);
+    if (m_id == 0 && !systems.keepDamagedFile()) {
+        m_refusal->tell(tr("The project's file of coordinate systems is damaged, and no copy of it can be kept beside "
+                           "it: is there space, and permission?"),
+                        m_name);
+        return;
+    }
     if (m_id == 0) {
         systems.create(chosenBasic(), definition());
     } else if (system != nullptr && system->getBasicCoordinateSystemID() == chosenBasic()) {

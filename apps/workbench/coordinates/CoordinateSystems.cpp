@@ -9,6 +9,7 @@
 #include <workbench/coordinates/CoordinateRegistry.h>
 
 #include <datamanager/coordinates/RelativeCoordinateSystem.h>
+#include <datamanager/material/private/KeptCopy.h>
 #include <datamanager/selection/SelectedDataManager.h>
 
 #include <basemodule/GlobalHelper.h>
@@ -16,6 +17,9 @@
 #include <basemodule/SelectModel.h>
 
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -63,6 +67,13 @@ QByteArray contentOf(const QString& path)
 {
     QByteArray content;
     return GlobalHelper::readFile(path, content) ? content : QByteArray();
+}
+
+/// Whether somebody saved no systems, and not something that cannot be read.
+bool isWithoutSystems(const QByteArray& content)
+{
+    const QJsonValue ids = QJsonDocument::fromJson(content).object().value(QLatin1String("m_IDList"));
+    return ids.isArray() && ids.toArray().isEmpty();
 }
 
 /// What the registry writes. It tells nobody whether it could: so it writes a file that was not there, on the same
@@ -192,7 +203,7 @@ int CoordinateSystems::nextID() const
 
 int CoordinateSystems::create(int basicID, const CoordinateDefinition& definition)
 {
-    if (coordinateRegistry().getCoordinateSystemByID(basicID) == nullptr) {
+    if (coordinateRegistry().getCoordinateSystemByID(basicID) == nullptr || !keepDamagedFile()) {
         return 0;
     }
     const int id = nextID();
@@ -200,6 +211,12 @@ int CoordinateSystems::create(int basicID, const CoordinateDefinition& definitio
     coordinateRegistry().appendCoordinateSystem(newCoordinateRecord(id, basicID, definition));
     tellChange();
     return id;
+}
+
+bool CoordinateSystems::keepDamagedFile() const
+{
+    return !m_isDamaged || !hasOnlyGlobalSystem() || !QFileInfo::exists(projectFile()) ||
+           DataManager::KeptCopy::keep(projectFile(), m_unread);
 }
 
 void CoordinateSystems::change(int id, const CoordinateDefinition& definition)
@@ -326,13 +343,15 @@ void CoordinateSystems::noteDisplay()
     }
 }
 
-void CoordinateSystems::loadProject()
+bool CoordinateSystems::loadProject()
 {
     coordinateRegistry().resetData();
     m_highestID = 0;
     coordinateRegistry().readConfig();
     m_unread = hasOnlyGlobalSystem() ? contentOf(projectFile()) : QByteArray();
+    m_isDamaged = !m_unread.isEmpty() && !isWithoutSystems(m_unread);
     tellChange();
+    return !m_isDamaged;
 }
 
 bool CoordinateSystems::saveProject()
@@ -355,6 +374,7 @@ void CoordinateSystems::clearProject()
     coordinateRegistry().resetData();
     m_highestID = 0;
     m_unread.clear();
+    m_isDamaged = false;
 }
 
 } // namespace Workbench

@@ -37,8 +37,12 @@ public:
     static CoordinateDefinition definition(int id);
 
     /// Adds a system relative to `basicID` and returns its identifier, one above the highest that the open project had,
-    /// so that nothing which remembers a deleted system takes the new one for it. 0 when there is no such basic system.
+    /// so that nothing which remembers a deleted system takes the new one for it. 0 when there is no such basic system,
+    /// or keepDamagedFile() fails.
     int create(int basicID, const CoordinateDefinition& definition);
+    /// Keeps a copy of the project's file, beside it, when it is damaged and the next system would take its place.
+    /// False when none can be made.
+    bool keepDamagedFile() const;
     /// Changes a system and with it all systems below. Nothing happens for the global system and unknown ones.
     void change(int id, const CoordinateDefinition& definition);
     /// The same, and makes it relative to another basic system; the definition is then meant in that one. Systems below
@@ -62,8 +66,9 @@ public:
     /// The same again. Systems that are not there are passed over.
     void setDisplay(const CoordinateDisplay& display);
 
-    /// Replaces all systems but the global one by those of the project's working directory.
-    void loadProject();
+    /// Replaces all systems but the global one by those of the project's working directory. False when their file has
+    /// a content that cannot be read.
+    bool loadProject();
     /// Makes sure that the project's file holds the systems, also after a write that failed unnoticed. False when it
     /// cannot be written. A file that could not be read stays while there is no system but the global one.
     bool saveProject();
@@ -87,6 +92,7 @@ private:
     int m_highestID = 0;
     /// The content of a file that gave no system.
     QByteArray m_unread;
+    bool m_isDamaged = false;
 };
 
 } // namespace Workbench

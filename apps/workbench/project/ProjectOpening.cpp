@@ -171,7 +171,10 @@ void Project::load(const CoordinateDisplay& coordinates)
              tr("they were saved with another key, or are damaged. The file is kept in the project"));
     }
     MaterialLibraries::instance()->loadProject();
-    CoordinateSystems::instance()->loadProject();
+    if (!CoordinateSystems::instance()->loadProject()) {
+        fail(tr("The coordinate systems of the project %1 cannot be read: %2"), m_path,
+             tr("their file is damaged. It is kept in the project"));
+    }
     CoordinateSystems::instance()->setDisplay(coordinates);
     GeometryManager::instance()->load(ProjectFiles::geometry(directory));
     MeshManager::instance()->restore(ProjectFiles::mesh(directory));

@@ -3,9 +3,11 @@
 
 #include "FileSizeLimit.h"
 #include "Samples.h"
+#include "Widgets.h"
 #include "WindowTest.h"
 
 #include <support/FilesAndLog.h>
+#include <workbench/coordinates/CoordinateDialog.h>
 #include <workbench/coordinates/CoordinateDock.h>
 #include <workbench/coordinates/CoordinateSystems.h>
 #include <workbench/material/MaterialDock.h>
@@ -96,6 +98,19 @@ void expectLines(int count, const char* pattern)
     }
 }
 
+constexpr const char* systemsName = "RelativeCoordinateSystemDate.json";
+constexpr const char* keptSystemsName = "RelativeCoordinateSystemDate.json.unreadable";
+
+/// A project whose file of coordinate systems has that content, which cannot be read.
+void saveWithSystems(const QByteArray& content, const QString& file)
+{
+    QVERIFY(Project::instance()->create());
+    const QString path = BaseModule::GlobalHelper::getProjectTempIODir() + QLatin1Char('/') + text(systemsName);
+    QVERIFY(!writeFile(path, content).isEmpty());
+    CoordinateSystems::instance()->loadProject();
+    QVERIFY(Project::instance()->saveAs(file));
+}
+
 } // namespace
 
 /// Materials and coordinate systems of a project that is saved and opened again.
@@ -114,6 +129,10 @@ private Q_SLOTS:
     void failsWithoutWorkingFiles_data();
     void failsWithoutWorkingFiles();
     void keepsUnreadableFiles();
+    void keepsDamagedSystems_data();
+    void keepsDamagedSystems();
+    void tellsWhenNoCopyCanBeKept();
+    void opensWithoutSystems();
     void undoSelectsNoLaterSystem();
     void cleanupTestCase() { Project::instance()->close(); }
 };
@@ -333,6 +352,89 @@ void tst_ProjectData::keepsUnreadableFiles()
     QVERIFY(Project::instance()->save());
     QCOMPARE(workingFile("MaterialLibrary.json"), QByteArray("damaged"));
     QCOMPARE(workingFile("RelativeCoordinateSystemDate.json"), QByteArray("damaged"));
+}
+
+void tst_ProjectData::keepsDamagedSystems_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("no JSON") << QByteArray("damaged");
+    QTest::newRow("cut off") << QByteArray(R"({"m_IDList": [1], "m_nameList": ["Tab)");
+    QTest::newRow("of something else") << QByteArray(R"({"x": 1})");
+    QTest::newRow("an array") << QByteArray("[1, 2]");
+    QTest::newRow("another type") << QByteArray(R"({"m_IDList": "1"})");
+}
+
+// They are told of, and the first system that takes their place leaves a copy.
+void tst_ProjectData::keepsDamagedSystems()
+{
+    QFETCH(QByteArray, content);
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(text("damaged.wbproj"));
+    saveWithSystems(content, file);
+    Messages messages;
+    QVERIFY(Project::instance()->open(file));
+    QCOMPARE(messages.list.size(), 1);
+    QVERIFY2(
+        messages.list.first().startsWith(
+            text("2 The coordinate systems of the project %1 cannot be read: ").arg(QDir::toNativeSeparators(file))),
+        qPrintable(messages.list.first()));
+    QVERIFY(!Project::instance()->isModified());
+    QVERIFY(Project::instance()->save());
+    QCOMPARE(workingFile(systemsName), content);
+    QVERIFY(workingFile(keptSystemsName).isEmpty());
+
+    for (const int id : {1, 2}) {
+        QCOMPARE(CoordinateSystems::instance()->create(0, {text("Table"), BaseModule::Cartesian, {}, {}}), id);
+        QCOMPARE(workingFile(keptSystemsName), content);
+    }
+    QVERIFY(Project::instance()->save());
+    QVERIFY(Project::instance()->open(file));
+    QCOMPARE(messages.list.size(), 1);
+    QCOMPARE(CoordinateSystems::definition(2).name, text("Table"));
+    QCOMPARE(workingFile(keptSystemsName), content);
+}
+
+void tst_ProjectData::tellsWhenNoCopyCanBeKept()
+{
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(text("damaged.wbproj"));
+    saveWithSystems("damaged", file);
+    QVERIFY(Project::instance()->open(file));
+    QWidget parent;
+    Workbench::CoordinateDialog::openForNew(0, &parent);
+    QWidget& dialog = *windowNamed("coordinateDialog");
+    type(dialog, "name", text("Table"));
+    {
+        const FileSizeLimit limit(4);
+        QCOMPARE(CoordinateSystems::instance()->create(0, {text("Table"), BaseModule::Cartesian, {}, {}}), 0);
+        press(dialog, QDialogButtonBox::Ok);
+    }
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(shown(dialog, "refusal"),
+             text("The project's file of coordinate systems is damaged, and no copy of it can be kept beside it: is "
+                  "there space, and permission?"));
+    QCOMPARE(workingFile(systemsName), QByteArray("damaged"));
+    press(dialog, QDialogButtonBox::Ok);
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(CoordinateSystems::definition(1).name, text("Table"));
+    QCOMPARE(workingFile(keptSystemsName), QByteArray("damaged"));
+}
+
+// Also when the last one was deleted, which leaves a file.
+void tst_ProjectData::opensWithoutSystems()
+{
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(text("without.wbproj"));
+    QVERIFY(Project::instance()->create());
+    const CoordinateDefinition definition = {text("Table"), BaseModule::Cartesian, {}, {}};
+    CoordinateSystems::instance()->remove({CoordinateSystems::instance()->create(0, definition)});
+    QVERIFY(!workingFile(systemsName).isEmpty());
+    QVERIFY(Project::instance()->saveAs(file));
+    Messages messages;
+    QVERIFY(Project::instance()->open(file));
+    QCOMPARE(messages.list, QStringList());
+    QCOMPARE(CoordinateSystems::instance()->create(0, definition), 1);
+    QVERIFY(workingFile(keptSystemsName).isEmpty());
 }
 
 void tst_ProjectData::undoSelectsNoLaterSystem()
