@@ -5,6 +5,7 @@
 
 #include <support/FilesAndLog.h>
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QTemporaryDir>
 
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void keepsBytesOnce();
     void leavesADirectoryWhereItIs();
     void keepsWhatSeveralKeepAtOnce();
+    void removesWhatAKilledProcessLeft();
 };
 
 void TestKeptCopy::keepsBytesOnce_data()
@@ -98,6 +100,20 @@ void TestKeptCopy::keepsWhatSeveralKeepAtOnce()
         QVERIFY(!QFile::exists(path + text(".unreadable.new")));
     }
     QVERIFY2(keptCount > rounds * keepers / 2, qPrintable(QString::number(keptCount)));
+}
+
+/// The temporary of a copy, and the one that takes its place while it is written.
+void TestKeptCopy::removesWhatAKilledProcessLeft()
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(text("library"));
+    const QByteArray digest = QCryptographicHash::hash("library.unreadable.new", QCryptographicHash::Sha1).toHex();
+    writeContent(path, "library");
+    writeContent(path + text(".unreadable.new"), "half");
+    writeContent(directory.filePath(QLatin1Char('.') + QString::fromLatin1(digest.left(16)) + text(".saving")),
+                 "a half");
+    KeptCopy::removeAbandoned(path);
+    QCOMPARE(QDir(directory.path()).entryList(QDir::Files | QDir::Hidden), QStringList{text("library")});
 }
 
 QTEST_GUILESS_MAIN(TestKeptCopy)
