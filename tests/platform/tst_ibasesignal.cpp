@@ -60,6 +60,7 @@ void tst_IBaseSignal::deliversSynchronouslyAndByReference()
 {
     auto* const hub = BaseModule::IBaseSignal::getInstance();
     DataModel::SelectedDataBase record;
+    QCOMPARE(int(record.getSelectModel()), 0);
     QList<DataModel::SelectedDataBase*> received;
     QObject receiver;
     connect(hub, &BaseModule::IBaseSignal::signal_updateGeomrtryActorTransparency, &receiver,
