@@ -17,7 +17,6 @@
 
 #include <cmath>
 #include <cstring>
-#include <limits>
 #include <memory>
 
 using BaseModule::GlobalHelper;
@@ -66,10 +65,6 @@ private Q_SLOTS:
 
     void createsRelativeToAnyOther();
     void refusesAMissingBasicSystem();
-    void takesTheNextIdentifier();
-    void givesNoIdentifierTwice();
-    void countsAnewInAnotherProject();
-    void passesTheLargestIdentifier();
     void placesAxes();
     void agreesWithTheLibrarysComposition();
     void keepsEveryBit();
@@ -134,53 +129,6 @@ void tst_CoordinateSystems::refusesAMissingBasicSystem()
     QCOMPARE(Fixture::create(7, text("Tool")), 0);
     QCOMPARE(log.take(), QStringList());
     QCOMPARE(CoordinateSystems::definition(7).name, QString());
-}
-
-void tst_CoordinateSystems::takesTheNextIdentifier()
-{
-    Fixture::create(0, text("a"));
-    Fixture::create(0, text("b"));
-    Fixture::systems().remove({1});
-    QCOMPARE(Fixture::create(0, text("c")), 3);
-    QCOMPARE(Fixture::ids(), text("[0,2,3]"));
-}
-
-void tst_CoordinateSystems::givesNoIdentifierTwice()
-{
-    Fixture::create(0, text("a"));
-    Fixture::create(0, text("b"));
-    Fixture::systems().remove({2});
-    QCOMPARE(Fixture::create(0, text("c")), 3);
-    // One that came from the file is gone as well, and so are those that others remove.
-    Fixture::systems().loadProject();
-    Fixture::systems().remove({3});
-    QCOMPARE(Fixture::create(0, text("d")), 4);
-    Fixture::Registry::getInstance()->removeCoordinateSystemByID({4, 77});
-    QCOMPARE(Fixture::create(0, text("e")), 5);
-    Fixture::Registry::getInstance()->removeCoordinateSystemByIndex(2);
-    QCOMPARE(Fixture::create(0, text("f")), 6);
-    QCOMPARE(Fixture::ids(), text("[0,1,6]"));
-}
-
-void tst_CoordinateSystems::countsAnewInAnotherProject()
-{
-    Fixture::create(0, text("a"));
-    Fixture::create(0, text("b"));
-    Fixture::systems().remove({2});
-    Fixture::systems().loadProject();
-    QCOMPARE(Fixture::create(0, text("c")), 2);
-    Fixture::systems().clearProject();
-    QCOMPARE(Fixture::create(0, text("d")), 1);
-}
-
-void tst_CoordinateSystems::passesTheLargestIdentifier()
-{
-    auto* const foreign = new Fixture::System;
-    foreign->setID(std::numeric_limits<int>::max());
-    Fixture::Registry::getInstance()->appendCoordinateSystem(foreign);
-    QCOMPARE(Fixture::create(0, text("a")), 1);
-    Fixture::systems().remove({std::numeric_limits<int>::max()});
-    QCOMPARE(Fixture::create(0, text("b")), 2);
 }
 
 void tst_CoordinateSystems::placesAxes()
