@@ -5,6 +5,10 @@
 
 #include "Samples.h"
 
+#include <datamanager/material/MaterialLibraryManager.h>
+#include <datamodel/MaterialData.h>
+#include <datamodel/MaterialPropertyData.h>
+
 /// The names in a directory, hidden ones too.
 inline QStringList namesIn(const QString& directory)
 {
@@ -31,4 +35,21 @@ constexpr int slowSize = 8 << 20;
 inline void makeSlow()
 {
     writeFile(BaseModule::GlobalHelper::getProjectTempIODir() + QStringLiteral("/mesh-9.msh"), noise(slowSize));
+}
+
+/// Gives the project's library a material with a property of this value.
+inline void createMaterial(double value)
+{
+    auto property = QSharedPointer<DataModel::MaterialPropertyData>::create();
+    property->label = QStringLiteral("permittivity");
+    property->components = QList<double>{value, 0, 0, 0, value, 0, 0, 0, value};
+    DataManager::MaterialLibraryManager::getInstance()->createProjectMat(QStringLiteral("钢"), QStringLiteral("steel"),
+                                                                         property, {}, {}, {}, {});
+}
+
+/// Of the project's first material; 0 when there is none.
+inline double materialValue()
+{
+    const auto material = DataManager::MaterialLibraryManager::getInstance()->getProjectMatByID(1);
+    return material && material->property1 ? material->property1->components.value(0) : 0;
 }
