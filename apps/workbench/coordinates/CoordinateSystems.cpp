@@ -84,7 +84,7 @@ QByteArray registryContent()
     const QTemporaryDir elsewhere(directory + QStringLiteral("/coordinates-XXXXXX"));
     GlobalHelper::setProjectTempIODir(elsewhere.path());
     coordinateRegistry().writeConfig();
-    const QByteArray content = elsewhere.isValid() ? contentOf(projectFile()) : QByteArray();
+    QByteArray content = elsewhere.isValid() ? contentOf(projectFile()) : QByteArray();
     GlobalHelper::setProjectTempIODir(directory);
     return content;
 }

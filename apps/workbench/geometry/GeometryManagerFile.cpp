@@ -112,7 +112,7 @@ bool GeometryManager::isDescription(const QString& filePath)
 void GeometryManager::takeJson(const QJsonObject& object)
 {
     int largestID = 0;
-    for (const QJsonValue& value : object.value(keyComponents()).toArray()) {
+    for (const QJsonValue value : object.value(keyComponents()).toArray()) {
         const QJsonObject entry = value.toObject();
         const int componentID = entry.value(keyID()).toInt();
         Component component;

@@ -66,7 +66,7 @@ QJsonObject toJson(const QMap<int, Origin>& origins)
 QMap<int, Origin> originsFrom(const QJsonObject& object)
 {
     QMap<int, Origin> origins;
-    for (const QJsonValue& entry : object.value(materialsKey).toArray()) {
+    for (const QJsonValue entry : object.value(materialsKey).toArray()) {
         const int id = entry.toObject().value(idKey).toInt();
         const Origin origin = fromJson(entry.toObject());
         if (id > 0 && origin.source != Origin::Unknown) {

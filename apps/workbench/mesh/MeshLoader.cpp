@@ -66,7 +66,7 @@ KernelReading readOne(const MeshLoader::Job& job, const KernelProgress& progress
     if (!copy.isDone) {
         return {{}, false, MeshLoader::tr("it cannot be copied to %1").arg(QDir::toNativeSeparators(job.copy))};
     }
-    const KernelReading reading = readCopy(job, progress);
+    KernelReading reading = readCopy(job, progress);
     if (!reading.mesh) {
         removeCopy(job);
     }

@@ -84,7 +84,7 @@ QJsonObject readDescription(const QString& filePath)
 QList<MeshLoader::Job> jobsOf(const QJsonObject& description, const QString& directory, const QString& predictorPath)
 {
     QList<MeshLoader::Job> jobs;
-    for (const QJsonValue& kernel : description.value(keyKernels()).toArray()) {
+    for (const QJsonValue kernel : description.value(keyKernels()).toArray()) {
         const QString path = directory + QLatin1Char('/') + kernel[keyFile()].toString();
         jobs.append({path, path, predictorPath});
     }
@@ -120,12 +120,12 @@ MeshManager::Kernel MeshManager::kernelFromJson(const QJsonObject& object, const
     kernel.origin = object.value(keyOrigin()).toString();
     kernel.isShown = object.value(keyShown()).toBool(true);
     kernel.mesh = mesh;
-    for (const QJsonValue& value : object.value(keyGroups()).toArray()) {
+    for (const QJsonValue value : object.value(keyGroups()).toArray()) {
         Group group;
         group.name = value[keyName()].toString();
         group.physicalTag = value[keyPhysical()].toInt();
         group.isShown = value[keyShown()].toBool(true);
-        for (const QJsonValue& element : value[keyElements()].toArray()) {
+        for (const QJsonValue element : value[keyElements()].toArray()) {
             const int place = mesh->elementNumbers.place(element.toInt());
             if (place >= 0) {
                 group.elements.push_back(place);
@@ -200,7 +200,7 @@ void MeshManager::keepUnread(const QJsonObject& description)
     takeDescription(description, {});
     m_unread = description.value(keyKernels()).toArray();
     int largestID = 0;
-    for (const QJsonValue& kernel : qAsConst(m_unread)) {
+    for (const QJsonValue kernel : qAsConst(m_unread)) {
         largestID = std::max(largestID, kernel[keyID()].toInt());
     }
     setKernelMaxID(largestID);
@@ -209,7 +209,7 @@ void MeshManager::keepUnread(const QJsonObject& description)
 
 void MeshManager::forgetUnread()
 {
-    for (const QJsonValue& kernel : qAsConst(m_unread)) {
+    for (const QJsonValue kernel : qAsConst(m_unread)) {
         QFile::remove(GlobalHelper::getProjectTempIODir() + QLatin1Char('/') + kernel[keyFile()].toString());
     }
     m_unread = {};
@@ -218,7 +218,7 @@ void MeshManager::forgetUnread()
 QStringList MeshManager::getUnreadNames() const
 {
     QStringList names;
-    for (const QJsonValue& kernel : m_unread) {
+    for (const QJsonValue kernel : m_unread) {
         names.append(kernel[keyName()].toString());
     }
     return names;

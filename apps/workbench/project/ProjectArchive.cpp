@@ -149,7 +149,7 @@ QString ProjectArchive::pack(const QString& directory, const QStringList& fileNa
     if (!archive.open()) {
         return failure.arg(archive.problem());
     }
-    const QString problem = packInto(archive.device(), directory, fileNames, progress);
+    QString problem = packInto(archive.device(), directory, fileNames, progress);
     if (!archive.problem().isEmpty()) {
         return failure.arg(archive.problem());
     }
@@ -178,7 +178,7 @@ QString ProjectArchive::unpack(const QString& archivePath, const QString& direct
     }
     Share share(contentSize(zip), progress);
     for (bool isThere = zip.goToFirstFile(); isThere; isThere = zip.goToNextFile()) {
-        const QString problem = unpackFile(zip, directory, share);
+        QString problem = unpackFile(zip, directory, share);
         if (!problem.isEmpty()) {
             return problem;
         }

@@ -161,7 +161,7 @@ QString ProjectFiles::check(const QString& directory, Description& content)
     if (object.value(keyFormat()).toString() != formatName()) {
         return say(QT_TRANSLATE_NOOP("Workbench::ProjectFiles", "it is an archive, but no project"));
     }
-    const QString refusal = versionRefusal(object.value(keyVersion()).toDouble());
+    QString refusal = versionRefusal(object.value(keyVersion()).toDouble());
     if (!refusal.isEmpty()) {
         return refusal;
     }

@@ -76,7 +76,7 @@ vtkSmartPointer<vtkTable> tableOf(const std::vector<BarChart::Bar>& bars)
         column->SetName(name);
         table->AddColumn(column);
     }
-    table->SetNumberOfRows(static_cast<vtkIdType>(bars.size() + 1));
+    table->SetNumberOfRows(static_cast<vtkIdType>(bars.size()) + 1);
     for (std::size_t i = 0; i <= bars.size(); ++i) {
         const auto row = static_cast<vtkIdType>(i);
         table->SetValue(row, 0, static_cast<double>(i) + 0.5);

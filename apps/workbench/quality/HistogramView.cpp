@@ -93,6 +93,7 @@ double HistogramView::barHeight(int bin) const
 void HistogramView::showBars()
 {
     std::vector<BarChart::Bar> bars;
+    bars.reserve(m_histogram.counts.size());
     for (int bin = 0; bin < binCount(); ++bin) {
         bars.push_back({barHeight(bin), isChosen(bin) ? chosenColour : barColour});
     }
